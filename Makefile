@@ -1,0 +1,24 @@
+# Thin wrapper: every target installs what is missing, configures and builds.
+BUILD ?= build
+JOBS ?= $(shell nproc)
+
+.PHONY: setup build run test bench clean
+
+setup:
+	@bash scripts/setup.sh
+
+build: setup
+	cmake -S . -B $(BUILD) -G Ninja -DCMAKE_BUILD_TYPE=RelWithDebInfo
+	cmake --build $(BUILD) -j $(JOBS)
+
+run: build
+	$(BUILD)/bin/haulix-admin demo
+
+test: build
+	cd $(BUILD) && QT_QPA_PLATFORM=offscreen ctest --output-on-failure -j $(JOBS)
+
+bench: build
+	$(BUILD)/bin/haulix-bench
+
+clean:
+	rm -rf $(BUILD)

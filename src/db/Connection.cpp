@@ -1,0 +1,114 @@
+#include "Connection.h"
+
+#include "DbError.h"
+#include "FirebirdEnvironment.h"
+
+#include <QAtomicInteger>
+#include <QFileInfo>
+#include <QSqlError>
+
+#include <ibase.h>
+
+namespace {
+
+QString nextConnectionName()
+{
+    static QAtomicInteger<quint64> counter;
+    return QStringLiteral("haulix-%1").arg(++counter);
+}
+
+QString statusText(const ISC_STATUS *status)
+{
+    QStringList parts;
+    char buffer[1024];
+    const ISC_STATUS *cursor = status;
+    while (fb_interpret(buffer, sizeof buffer, &cursor))
+        parts << QString::fromLocal8Bit(buffer);
+    return parts.join(QStringLiteral(" - "));
+}
+
+} // namespace
+
+Connection::Connection() : m_name(nextConnectionName()) {}
+
+Connection::~Connection()
+{
+    close();
+    QSqlDatabase::removeDatabase(m_name);
+}
+
+bool Connection::isServerTarget(const QString &target)
+{
+    // "C:\dir\file.fdb" is a local path with a drive letter, not a host.
+    const qsizetype colon = target.indexOf(QLatin1Char(':'));
+    return colon > 1;
+}
+
+void Connection::open(const QString &target, const QString &user, const QString &password)
+{
+    FirebirdEnvironment::prepare();
+    close();
+    QSqlDatabase db = QSqlDatabase::contains(m_name) ? QSqlDatabase::database(m_name, false)
+                                                     : QSqlDatabase::addDatabase(QStringLiteral("QIBASE"), m_name);
+    if (!db.isValid())
+        throw DbError(QStringLiteral("Brak sterownika bazy danych QIBASE (pakiet libqt6sql6-ibase)."));
+    db.setDatabaseName(target);
+    db.setUserName(user);
+    db.setPassword(password);
+    db.setConnectOptions(QStringLiteral("ISC_DPB_LC_CTYPE=UTF8"));
+    if (!isServerTarget(target) && !QFileInfo::exists(target))
+        throw DbError(QStringLiteral("Nie można otworzyć bazy danych %1: plik nie istnieje.").arg(target));
+    if (!db.open()) {
+        throw DbError(QStringLiteral("Nie można otworzyć bazy danych %1: %2")
+                          .arg(target, db.lastError().text()));
+    }
+    m_target = target;
+}
+
+void Connection::close()
+{
+    if (QSqlDatabase::contains(m_name)) {
+        QSqlDatabase db = QSqlDatabase::database(m_name, false);
+        if (db.isOpen())
+            db.close();
+    }
+    m_target.clear();
+}
+
+bool Connection::isOpen() const
+{
+    return QSqlDatabase::contains(m_name) && QSqlDatabase::database(m_name, false).isOpen();
+}
+
+QSqlDatabase Connection::database() const
+{
+    return QSqlDatabase::database(m_name, false);
+}
+
+void Connection::createDatabase(const QString &target, const QString &user, const QString &password)
+{
+    FirebirdEnvironment::prepare();
+    if (!isServerTarget(target)) {
+        const QFileInfo file(target);
+        if (file.exists())
+            throw DbError(QStringLiteral("Plik %1 już istnieje; baza nie zostanie nadpisana.").arg(target));
+        if (!QFileInfo(file.absolutePath()).isWritable())
+            throw DbError(QStringLiteral("Nie można zapisać w katalogu %1.").arg(file.absolutePath()));
+    }
+    QString quoted = target;
+    quoted.replace(QLatin1Char('\''), QStringLiteral("''"));
+    const QByteArray statement =
+        QStringLiteral("CREATE DATABASE '%1' USER '%2' PASSWORD '%3' PAGE_SIZE 16384 "
+                       "DEFAULT CHARACTER SET UTF8")
+            .arg(quoted, user, password)
+            .toUtf8();
+
+    ISC_STATUS_ARRAY status = {};
+    isc_db_handle db = 0;
+    isc_tr_handle tr = 0;
+    if (isc_dsql_execute_immediate(status, &db, &tr, 0, statement.constData(), 3, nullptr)) {
+        throw DbError(QStringLiteral("Nie można utworzyć bazy danych %1: %2")
+                          .arg(target, statusText(status)));
+    }
+    isc_detach_database(status, &db);
+}

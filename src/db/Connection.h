@@ -1,0 +1,40 @@
+#pragma once
+
+#include <QSqlDatabase>
+#include <QString>
+
+// The suite's database connection: Qt's QIBASE driver on a Firebird
+// database, always in UTF8. A plain file path opens the file with the
+// embedded engine; "host[/port]:path" goes through a Firebird server.
+// The host owns it; the module only ever uses the one it is handed.
+class Connection
+{
+public:
+    Connection();
+    ~Connection();
+    Connection(const Connection &) = delete;
+    Connection &operator=(const Connection &) = delete;
+
+    // Throws DbError with the path and the driver's reason.
+    void open(const QString &target,
+              const QString &user = QStringLiteral("SYSDBA"),
+              const QString &password = QStringLiteral("masterkey"));
+    void close();
+    bool isOpen() const;
+
+    const QString &target() const { return m_target; }
+    QSqlDatabase database() const;
+    QString connectionName() const { return m_name; }
+
+    static bool isServerTarget(const QString &target);
+
+    // Creates an empty UTF8 database file; throws DbError when the file
+    // exists or cannot be written. Never overwrites.
+    static void createDatabase(const QString &target,
+                               const QString &user = QStringLiteral("SYSDBA"),
+                               const QString &password = QStringLiteral("masterkey"));
+
+private:
+    QString m_name;
+    QString m_target;
+};

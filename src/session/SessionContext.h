@@ -1,0 +1,23 @@
+#pragma once
+
+#include <QtGlobal>
+
+class Connection;
+class Transaction;
+
+// The three values an entry point is handed by the host. They stay set
+// after the entry point returns; the next call overwrites them. The
+// connection and transaction belong to the host and are never opened,
+// closed or freed here.
+struct SessionContext
+{
+    qint32 UserID = 0;
+    Connection *Database = nullptr;
+    ::Transaction *Transaction = nullptr;
+};
+
+// The process-wide context of the module.
+SessionContext &session();
+
+// Stores the values in the order the host hands them over.
+void setSession(qint32 userId, Connection *database, ::Transaction *transaction);

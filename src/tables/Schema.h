@@ -1,0 +1,20 @@
+#pragma once
+
+#include <QStringList>
+
+class Connection;
+
+// The schema of the suite's database (schema.sql, compiled in).
+namespace Schema {
+
+QString text();
+// The statements of a script, one per entry: comment lines dropped and
+// isql's SET TERM honoured, so trigger bodies stay whole.
+QStringList splitStatements(const QString &script);
+// Runs every statement of the schema on an empty database; throws DbError.
+void apply(Connection &connection);
+// Creates a new database file and applies the schema to it; never
+// overwrites an existing file.
+void createDatabase(const QString &target);
+
+} // namespace Schema

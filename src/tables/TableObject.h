@@ -1,0 +1,319 @@
+#pragma once
+
+#include "Connection.h"
+#include "DbError.h"
+#include "Statement.h"
+#include "TCompareOp.h"
+#include "TableDescription.h"
+#include "TableStatements.h"
+
+#include <QStringList>
+#include <QVariant>
+
+#include <exception>
+#include <vector>
+
+// The generic half of every table object. A table object is one record of
+// its table (public fields named after the columns) and the gateway that
+// reads and writes such records. Derived classes give the fields and a
+// description; everything else is here:
+//
+//   static constexpr TableShape Shape;      short or long (SelectClause, SelectWhere2)
+//   static constexpr bool HasSelectById;
+//   static constexpr bool HasSelectOne;
+//   static constexpr MaxIdKind MaxId;       GetMaxId absent, guarded or not
+//   static const TableDescription<T> &description();
+//   bool UniDirectional;                    optional: read lists forward-only
+//
+// Operations a class does not have do not compile for it. The guarded step
+// of each operation catches every failure, shows the table's message, logs
+// it and goes on: Insert/Update/Delete return as if nothing happened and a
+// failed select returns an empty list (or an empty record).
+template <class Derived>
+class TableObject
+{
+public:
+    static constexpr int MaxTextLength = 255;
+
+    explicit TableObject(Connection &connection) : m_connection(&connection) {}
+
+    Connection &connection() const { return *m_connection; }
+
+    void Insert()
+    {
+        const auto &d = Derived::description();
+        Statement st(*m_connection);
+        for (const QString &line : TableStatements::insertLines(d.info.table, d.columnNames()))
+            st.add(line);
+        bindColumns(st);
+        guarded(TableStatements::Operation::Insert, [&] { st.exec(); });
+    }
+
+    void Update()
+    {
+        const auto &d = Derived::description();
+        Statement st(*m_connection);
+        for (const QString &line : TableStatements::updateLines(d.info.table, d.columnNames(), d.info.key))
+            st.add(line);
+        bindKey(st);
+        bindColumns(st);
+        guarded(TableStatements::Operation::Update, [&] { st.exec(); });
+    }
+
+    void Delete()
+    {
+        const auto &d = Derived::description();
+        Statement st(*m_connection);
+        st.add(TableStatements::deleteLine(d.info.table, d.info.key));
+        bindKey(st);
+        guarded(TableStatements::Operation::Delete, [&] { st.exec(); });
+    }
+
+    std::vector<Derived> SelectAll(const QString &orderBy = QString()) const
+    {
+        Statement st(*m_connection);
+        st.add(TableStatements::selectAllLine(Derived::description().info.table));
+        if (!orderBy.isEmpty())
+            st.add(TableStatements::orderByLine(orderBy));
+        return selectList(st, [&] { st.exec(); });
+    }
+
+    std::vector<Derived> SelectClause(const QString &clause) const
+        requires(Derived::Shape == TableShape::Long)
+    {
+        Statement st(*m_connection);
+        st.add(TableStatements::selectAllLine(Derived::description().info.table));
+        if (!clause.isEmpty())
+            st.add(QLatin1Char(' ') + clause);
+        return selectList(st, [&] { st.exec(); });
+    }
+
+    std::vector<Derived> SelectWhere(const QString &field, TCompareOp op, const QVariant &value,
+                                     const QString &orderBy = QString()) const
+    {
+        Statement st(*m_connection);
+        return selectList(st, [&] {
+            buildWhere(st, {{field, value, QStringLiteral("aValue")}}, op);
+            if (!orderBy.isEmpty())
+                st.add(TableStatements::orderByLine(orderBy));
+            st.exec();
+        });
+    }
+
+    // Both conditions compare with the first operator; Operator2 is accepted
+    // and not used. Callers needing two operators write a SelectClause.
+    std::vector<Derived> SelectWhere2(const QString &field, TCompareOp op, const QVariant &value,
+                                      const QString &field2, TCompareOp op2, const QVariant &value2,
+                                      const QString &orderBy = QString()) const
+        requires(Derived::Shape == TableShape::Long)
+    {
+        Q_UNUSED(op2);
+        Statement st(*m_connection);
+        return selectList(st, [&] {
+            buildWhere(st,
+                       {{field, value, QStringLiteral("aValue")},
+                        {field2, value2, QStringLiteral("aValue2")}},
+                       op);
+            if (!orderBy.isEmpty())
+                st.add(TableStatements::orderByLine(orderBy));
+            st.exec();
+        });
+    }
+
+    // Not guarded: a failure reaches the caller as DbError.
+    QStringList SelectDistinct(const QString &field) const
+    {
+        Statement st(*m_connection);
+        st.add(TableStatements::selectDistinctLine(Derived::description().info.table, field));
+        st.exec();
+        QStringList values;
+        for (; !st.atEnd(); st.next())
+            values << st.string(0);
+        return values;
+    }
+
+    // A key that is not there gives a record whose key is 0.
+    Derived SelectById(int key) const
+        requires Derived::HasSelectById
+    {
+        const auto &d = Derived::description();
+        Statement st(*m_connection);
+        st.add(TableStatements::selectByIdLine(d.info.table, d.info.key));
+        st.bind(QStringLiteral("a") + d.info.key, key);
+        return selectOne(st);
+    }
+
+    Derived SelectOne(const QString &clause) const
+        requires Derived::HasSelectOne
+    {
+        Statement st(*m_connection);
+        st.add(TableStatements::selectAllLine(Derived::description().info.table) + QLatin1Char(' ') + clause);
+        return selectOne(st);
+    }
+
+    // The highest key of the table, 0 when it is empty. Guarded for some
+    // tables (0 after a failure), not for others (DbError to the caller).
+    int GetMaxId() const
+        requires(Derived::MaxId != MaxIdKind::None)
+    {
+        const auto &d = Derived::description();
+        Statement st(*m_connection);
+        st.add(TableStatements::maxIdLine(d.info.table, d.info.key));
+        if constexpr (Derived::MaxId == MaxIdKind::Unguarded) {
+            st.exec();
+            return st.integer(0);
+        } else {
+            int result = 0;
+            if (!guarded(TableStatements::Operation::Select, [&] { st.exec(); result = st.integer(0); }))
+                return 0;
+            return result;
+        }
+    }
+
+private:
+    struct Condition
+    {
+        QString field;
+        QVariant value;
+        QString parameter;
+    };
+
+    const Derived &self() const { return static_cast<const Derived &>(*this); }
+
+    bool uniDirectional() const
+    {
+        if constexpr (requires { self().UniDirectional; })
+            return self().UniDirectional;
+        else
+            return false;
+    }
+
+    template <class Step>
+    bool guarded(TableStatements::Operation operation, Step &&step) const
+    {
+        try {
+            step();
+            return true;
+        } catch (const DbError &error) {
+            TableStatements::reportFailure(operation, Derived::description().info, error.message());
+        } catch (const std::exception &error) {
+            TableStatements::reportFailure(operation, Derived::description().info,
+                                           QString::fromLocal8Bit(error.what()));
+        }
+        return false;
+    }
+
+    void bindKey(Statement &st) const
+    {
+        const auto &d = Derived::description();
+        st.bind(QStringLiteral("a") + d.info.key, self().*(d.keyField));
+    }
+
+    void bindColumns(Statement &st) const
+    {
+        for (const Column<Derived> &column : Derived::description().columns) {
+            const QString parameter = QStringLiteral("a") + column.name;
+            std::visit([&](auto member) { st.bind(parameter, self().*member); }, column.field);
+        }
+    }
+
+    // The first condition's operator is used for every condition.
+    void buildWhere(Statement &st, const std::vector<Condition> &conditions, TCompareOp op) const
+    {
+        const QString &table = Derived::description().info.table;
+        st.clear();
+        if (conditions.front().field.isEmpty()) {
+            st.add(TableStatements::selectAllLine(table));
+            return;
+        }
+        std::vector<QMetaType> types;
+        for (const Condition &condition : conditions) {
+            Statement probe(*m_connection);
+            probe.add(TableStatements::probeLine(table, condition.field));
+            probe.exec();
+            types.push_back(probe.columnType(0));
+        }
+        st.add(TableStatements::selectWhereLine(table));
+        for (std::size_t i = 0; i < conditions.size(); ++i) {
+            if (i > 0)
+                st.add(QStringLiteral("AND "));
+            st.add(conditions[i].field);
+            st.add(TableStatements::compareLine(op, conditions[i].parameter));
+        }
+        for (std::size_t i = 0; i < conditions.size(); ++i)
+            TableStatements::bindByColumnType(st, conditions[i].parameter, types[i], conditions[i].value);
+    }
+
+    std::vector<int> columnIndexes(const Statement &st) const
+    {
+        const auto &d = Derived::description();
+        std::vector<int> indexes;
+        indexes.reserve(d.columns.size() + 1);
+        const auto require = [&](const QString &name) {
+            const int index = st.columnIndex(name);
+            if (index < 0)
+                throw DbError(QStringLiteral("Brak kolumny %1 w tabeli %2").arg(name, d.info.table));
+            return index;
+        };
+        indexes.push_back(require(d.info.key));
+        for (const Column<Derived> &column : d.columns)
+            indexes.push_back(require(column.name));
+        return indexes;
+    }
+
+    void readRow(const Statement &st, const std::vector<int> &indexes, Derived &record) const
+    {
+        const auto &d = Derived::description();
+        record.*(d.keyField) = st.integer(indexes[0]);
+        for (std::size_t i = 0; i < d.columns.size(); ++i) {
+            const int index = indexes[i + 1];
+            std::visit(
+                [&](auto member) {
+                    using Value = std::remove_reference_t<decltype(record.*member)>;
+                    if constexpr (std::is_same_v<Value, int>)
+                        record.*member = st.integer(index);
+                    else if constexpr (std::is_same_v<Value, double>)
+                        record.*member = st.number(index);
+                    else if constexpr (std::is_same_v<Value, DateTime>)
+                        record.*member = st.dateTime(index);
+                    else
+                        record.*member = st.string(index).left(MaxTextLength);
+                },
+                d.columns[i].field);
+        }
+    }
+
+    Derived newRecord() const
+    {
+        Derived record(*m_connection);
+        return record;
+    }
+
+    template <class Open>
+    std::vector<Derived> selectList(Statement &st, Open &&open) const
+    {
+        std::vector<Derived> result;
+        st.setUniDirectional(uniDirectional());
+        if (!guarded(TableStatements::Operation::Select, open))
+            return result;
+        const std::vector<int> indexes = columnIndexes(st);
+        for (; !st.atEnd(); st.next()) {
+            result.push_back(newRecord());
+            readRow(st, indexes, result.back());
+        }
+        return result;
+    }
+
+    Derived selectOne(Statement &st) const
+    {
+        Derived record = newRecord();
+        st.setUniDirectional(uniDirectional());
+        if (!guarded(TableStatements::Operation::Select, [&] { st.exec(); }))
+            return record;
+        if (!st.atEnd())
+            readRow(st, columnIndexes(st), record);
+        return record;
+    }
+
+    Connection *m_connection;
+};

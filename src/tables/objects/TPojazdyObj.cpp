@@ -1,0 +1,58 @@
+#include "TPojazdyObj.h"
+
+const TableDescription<TPojazdyObj> &TPojazdyObj::description()
+{
+    using T = TPojazdyObj;
+    static const TableDescription<T> d{
+        {QStringLiteral("POJAZDY"), QStringLiteral("ID_POJAZDU"), ErrorLogFile::Sql, InsertWording::WithDo},
+        &T::ID_POJAZDU,
+        {
+            {QStringLiteral("ID_GATUNKU"), &T::ID_GATUNKU},
+            {QStringLiteral("NR_REJ"), &T::NR_REJ},
+            {QStringLiteral("DOWOD_REJ"), &T::DOWOD_REJ},
+            {QStringLiteral("NR_EWID"), &T::NR_EWID},
+            {QStringLiteral("ID_MARKA"), &T::ID_MARKA},
+            {QStringLiteral("TYP"), &T::TYP},
+            {QStringLiteral("ID_RODZAJ"), &T::ID_RODZAJ},
+            {QStringLiteral("PRZEZNACZENIE"), &T::PRZEZNACZENIE},
+            {QStringLiteral("NR_PODW"), &T::NR_PODW},
+            {QStringLiteral("NR_SILNIKA"), &T::NR_SILNIKA},
+            {QStringLiteral("NR_NADWOZIA"), &T::NR_NADWOZIA},
+            {QStringLiteral("MASA_WL"), &T::MASA_WL},
+            {QStringLiteral("LADOWNOSC"), &T::LADOWNOSC},
+            {QStringLiteral("BARWA"), &T::BARWA},
+            {QStringLiteral("IL_MIEJSC"), &T::IL_MIEJSC},
+            {QStringLiteral("POJ_SILN"), &T::POJ_SILN},
+            {QStringLiteral("MOC_SILN"), &T::MOC_SILN},
+            {QStringLiteral("ROK_PROD"), &T::ROK_PROD},
+            {QStringLiteral("OGRZEWANIE"), &T::OGRZEWANIE},
+            {QStringLiteral("OPONY_PRZOD"), &T::OPONY_PRZOD},
+            {QStringLiteral("OPONY_TYL"), &T::OPONY_TYL},
+            {QStringLiteral("DEF_NACZEPA"), &T::DEF_NACZEPA},
+            {QStringLiteral("DEF_KIEROWCA"), &T::DEF_KIEROWCA},
+            {QStringLiteral("DEF_ZMIENNIK"), &T::DEF_ZMIENNIK},
+            {QStringLiteral("RODZAJ_PALIWA"), &T::RODZAJ_PALIWA},
+            {QStringLiteral("OPIS"), &T::OPIS},
+            {QStringLiteral("DEF_WYKONAWCA"), &T::DEF_WYKONAWCA},
+            {QStringLiteral("NORMA_PALIWA"), &T::NORMA_PALIWA},
+            {QStringLiteral("NORMA_AGREGATU"), &T::NORMA_AGREGATU},
+            {QStringLiteral("NORMA_OGRZEWANIA"), &T::NORMA_OGRZEWANIA},
+            {QStringLiteral("PRZEJECHANE"), &T::PRZEJECHANE},
+            {QStringLiteral("STAN_PALIWA_AGREGAT_I"), &T::STAN_PALIWA_AGREGAT_I},
+            {QStringLiteral("STAN_PALIWA_AGREGAT_II"), &T::STAN_PALIWA_AGREGAT_II},
+            {QStringLiteral("LICZNIK_AGREGAT_I"), &T::LICZNIK_AGREGAT_I},
+            {QStringLiteral("LICZNIK_AGREGAT_II"), &T::LICZNIK_AGREGAT_II},
+            {QStringLiteral("STAN_PALIWA"), &T::STAN_PALIWA},
+            {QStringLiteral("LICZNIK"), &T::LICZNIK},
+            {QStringLiteral("LICZNIK_P"), &T::LICZNIK_P},
+            {QStringLiteral("NORMA_AGREGATU2"), &T::NORMA_AGREGATU2},
+            {QStringLiteral("NORMA_Z_PALIWA"), &T::NORMA_Z_PALIWA},
+            {QStringLiteral("NORMA_Z_AGREGATU"), &T::NORMA_Z_AGREGATU},
+            {QStringLiteral("NORMA_Z_OGRZEWANIA"), &T::NORMA_Z_OGRZEWANIA},
+            {QStringLiteral("NORMA_Z_AGREGATU2"), &T::NORMA_Z_AGREGATU2},
+            {QStringLiteral("AGREGAT1"), &T::AGREGAT1},
+            {QStringLiteral("AGREGAT2"), &T::AGREGAT2},
+        },
+    };
+    return d;
+}

@@ -1,0 +1,55 @@
+#include "TVzlecenia_przychObj.h"
+
+const TableDescription<TVzlecenia_przychObj> &TVzlecenia_przychObj::description()
+{
+    using T = TVzlecenia_przychObj;
+    static const TableDescription<T> d{
+        {QStringLiteral("VZLECENIA_PRZYCH"), QStringLiteral("ID_ZLECENIA_PRZYCH"), ErrorLogFile::Sql, InsertWording::WithoutDo},
+        &T::ID_ZLECENIA_PRZYCH,
+        {
+            {QStringLiteral("NUMER"), &T::NUMER},
+            {QStringLiteral("DATA"), &T::DATA},
+            {QStringLiteral("TYP"), &T::TYP},
+            {QStringLiteral("IDKONTRAHENT"), &T::IDKONTRAHENT},
+            {QStringLiteral("IDPRZEWOZNIK"), &T::IDPRZEWOZNIK},
+            {QStringLiteral("KONTRAHENT"), &T::KONTRAHENT},
+            {QStringLiteral("PRZEWOZNIK"), &T::PRZEWOZNIK},
+            {QStringLiteral("MIASTOOD"), &T::MIASTOOD},
+            {QStringLiteral("MIASTOVIA"), &T::MIASTOVIA},
+            {QStringLiteral("MIASTODO"), &T::MIASTODO},
+            {QStringLiteral("IDFAKTURY"), &T::IDFAKTURY},
+            {QStringLiteral("STAWKA_RAZEM"), &T::STAWKA_RAZEM},
+            {QStringLiteral("KWOTA"), &T::KWOTA},
+            {QStringLiteral("STAWKA_KMLAD"), &T::STAWKA_KMLAD},
+            {QStringLiteral("STAWKA_KMPUSTY"), &T::STAWKA_KMPUSTY},
+            {QStringLiteral("STAWKA_GODZINY"), &T::STAWKA_GODZINY},
+            {QStringLiteral("STAWKA_PALETY"), &T::STAWKA_PALETY},
+            {QStringLiteral("KM_LADOWNE"), &T::KM_LADOWNE},
+            {QStringLiteral("KM_PUSTE"), &T::KM_PUSTE},
+            {QStringLiteral("ILOSC_GODZIN"), &T::ILOSC_GODZIN},
+            {QStringLiteral("OPLATA_SKARBOWA"), &T::OPLATA_SKARBOWA},
+            {QStringLiteral("POJAZD"), &T::POJAZD},
+            {QStringLiteral("DOK_WZ"), &T::DOK_WZ},
+            {QStringLiteral("NRFAKTURY"), &T::NRFAKTURY},
+            {QStringLiteral("FAK_DWYST"), &T::FAK_DWYST},
+            {QStringLiteral("NR_KARTY"), &T::NR_KARTY},
+            {QStringLiteral("NR_LISTU"), &T::NR_LISTU},
+            {QStringLiteral("PALETYILOSC"), &T::PALETYILOSC},
+            {QStringLiteral("KIEROWCA"), &T::KIEROWCA},
+            {QStringLiteral("IDKIEROWCY"), &T::IDKIEROWCY},
+            {QStringLiteral("IDKARTYDR"), &T::IDKARTYDR},
+            {QStringLiteral("RABAT"), &T::RABAT},
+            {QStringLiteral("KWOTA_PO_RABACIE"), &T::KWOTA_PO_RABACIE},
+            {QStringLiteral("OPERATOR"), &T::OPERATOR},
+            {QStringLiteral("IDUSER"), &T::IDUSER},
+            {QStringLiteral("KOSZTRAZEM"), &T::KOSZTRAZEM},
+            {QStringLiteral("IDFILTR1"), &T::IDFILTR1},
+            {QStringLiteral("NUMER_OBCY"), &T::NUMER_OBCY},
+            {QStringLiteral("ZAMKNIETE"), &T::ZAMKNIETE},
+            {QStringLiteral("FILTR1"), &T::FILTR1},
+            {QStringLiteral("NUMER_OBCA_FAK"), &T::NUMER_OBCA_FAK},
+            {QStringLiteral("KWOTA_OBCA_FAKT"), &T::KWOTA_OBCA_FAKT},
+        },
+    };
+    return d;
+}
