@@ -4,6 +4,7 @@
 #include "DbError.h"
 
 #include <QSqlError>
+#include <QSqlQuery>
 
 Transaction::Transaction(Connection &connection) : m_connection(connection) {}
 
@@ -38,9 +39,38 @@ void Transaction::Rollback()
         throw DbError(QStringLiteral("Nie można wycofać transakcji: %1").arg(db.lastError().text()));
 }
 
+void Transaction::run(const QString &sql)
+{
+    if (!m_active)
+        throw DbError(QStringLiteral("Brak rozpoczętej transakcji: %1").arg(sql));
+    QSqlQuery query(m_connection.database());
+    if (!query.exec(sql))
+        throw DbError(QStringLiteral("%1: %2").arg(sql, query.lastError().text()));
+}
+
+QString Transaction::setSavepoint()
+{
+    const QString name = QStringLiteral("HX_SP%1").arg(++m_savepoints);
+    run(QStringLiteral("SAVEPOINT ") + name);
+    return name;
+}
+
+void Transaction::releaseSavepoint(const QString &name)
+{
+    run(QStringLiteral("RELEASE SAVEPOINT ") + name);
+}
+
+void Transaction::rollbackToSavepoint(const QString &name)
+{
+    run(QStringLiteral("ROLLBACK TO SAVEPOINT ") + name);
+}
+
 TransactionScope::TransactionScope(Transaction &transaction) : m_transaction(transaction)
 {
-    m_transaction.StartTransaction();
+    if (m_transaction.InTransaction())
+        m_savepoint = m_transaction.setSavepoint();
+    else
+        m_transaction.StartTransaction();
 }
 
 TransactionScope::~TransactionScope()
@@ -48,7 +78,10 @@ TransactionScope::~TransactionScope()
     if (m_done)
         return;
     try {
-        m_transaction.Rollback();
+        if (m_savepoint.isEmpty())
+            m_transaction.Rollback();
+        else
+            m_transaction.rollbackToSavepoint(m_savepoint);
     } catch (const DbError &) {
         // A destructor must not throw; the transaction is gone either way.
     }
@@ -56,6 +89,9 @@ TransactionScope::~TransactionScope()
 
 void TransactionScope::commit()
 {
-    m_transaction.Commit();
+    if (m_savepoint.isEmpty())
+        m_transaction.Commit();
+    else
+        m_transaction.releaseSavepoint(m_savepoint);
     m_done = true;
 }

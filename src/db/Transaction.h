@@ -1,5 +1,7 @@
 #pragma once
 
+#include <QString>
+
 class Connection;
 
 // The explicit transaction of a connection. While none is active, every
@@ -20,14 +22,23 @@ public:
 
     Connection &connection() const { return m_connection; }
 
+    // Savepoints inside the active transaction, for nested scopes.
+    QString setSavepoint();
+    void releaseSavepoint(const QString &name);
+    void rollbackToSavepoint(const QString &name);
+
 private:
+    void run(const QString &sql);
+
     Connection &m_connection;
     bool m_active = false;
+    int m_savepoints = 0;
 };
 
 // Starts the transaction on creation and rolls it back on destruction
 // unless commit() was called: an early return or an exception can never
-// leave half of a group of statements applied.
+// leave half of a group of statements applied. Inside a transaction that is
+// already running, the scope is a savepoint of it, so scopes nest.
 class TransactionScope
 {
 public:
@@ -40,5 +51,6 @@ public:
 
 private:
     Transaction &m_transaction;
+    QString m_savepoint;
     bool m_done = false;
 };

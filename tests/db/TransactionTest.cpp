@@ -102,3 +102,24 @@ TEST(Connection, MissingFileIsAClearError)
     }
     EXPECT_FALSE(connection.isOpen());
 }
+
+TEST(Transaction, NestedScopeUndoesOnlyItsOwnWork)
+{
+    TestDatabase db;
+    Transaction transaction(db.connection());
+    TransactionScope outer(transaction);
+    insertUnit(db.connection(), QStringLiteral("tona"));
+    {
+        TransactionScope inner(transaction);
+        insertUnit(db.connection(), QStringLiteral("paleta"));
+    }
+    {
+        TransactionScope inner(transaction);
+        insertUnit(db.connection(), QStringLiteral("godzina"));
+        inner.commit();
+    }
+    EXPECT_TRUE(transaction.InTransaction());
+    outer.commit();
+    EXPECT_EQ(db.count(QStringLiteral("MIARY")), 2);
+    EXPECT_EQ(db.count(QStringLiteral("MIARY"), QStringLiteral("NAZWA='paleta'")), 0);
+}
