@@ -1,5 +1,10 @@
 #include "TMiejsca_zlecObj.h"
 
+#include <QRegularExpression>
+
+#include <array>
+#include <stdexcept>
+
 const TableDescription<TMiejsca_zlecObj> &TMiejsca_zlecObj::description()
 {
     using T = TMiejsca_zlecObj;
@@ -103,4 +108,70 @@ const TableDescription<TMiejsca_zlecObj> &TMiejsca_zlecObj::description()
         },
     };
     return d;
+}
+
+namespace {
+
+using T = TMiejsca_zlecObj;
+
+struct SlotFields
+{
+    QString T::*adres = nullptr;
+    QString T::*kod = nullptr;
+    QString T::*miejscowosc = nullptr;
+    int T::*kraj = nullptr;
+    QString T::*nazwa = nullptr;
+};
+
+// The numbered fields of each slot, found once from the column list.
+const std::array<SlotFields, T::SlotCount> &slotFields()
+{
+    static const auto fields = [] {
+        std::array<SlotFields, T::SlotCount> result;
+        static const QRegularExpression numbered(QStringLiteral("^([A-Z_]+?)(\\d+)$"));
+        for (const Column<T> &column : T::description().columns) {
+            const QRegularExpressionMatch match = numbered.match(column.name);
+            if (!match.hasMatch())
+                continue;
+            SlotFields &slot = result.at(match.captured(2).toInt() - 1);
+            const QString base = match.captured(1);
+            if (base == QLatin1String("ID_KRAJU"))
+                slot.kraj = std::get<int T::*>(column.field);
+            else if (base == QLatin1String("ADRES"))
+                slot.adres = std::get<QString T::*>(column.field);
+            else if (base == QLatin1String("KOD"))
+                slot.kod = std::get<QString T::*>(column.field);
+            else if (base == QLatin1String("MIEJSCOWOSC"))
+                slot.miejscowosc = std::get<QString T::*>(column.field);
+            else if (base == QLatin1String("NAZWA"))
+                slot.nazwa = std::get<QString T::*>(column.field);
+        }
+        return result;
+    }();
+    return fields;
+}
+
+const SlotFields &fieldsOf(int number)
+{
+    if (number < 1 || number > T::SlotCount)
+        throw std::out_of_range("place slot out of range");
+    return slotFields()[std::size_t(number - 1)];
+}
+
+} // namespace
+
+TMiejsca_zlecObj::Slot TMiejsca_zlecObj::slot(int number) const
+{
+    const SlotFields &f = fieldsOf(number);
+    return {this->*f.adres, this->*f.kod, this->*f.miejscowosc, this->*f.kraj, this->*f.nazwa};
+}
+
+void TMiejsca_zlecObj::setSlot(int number, const Slot &slot)
+{
+    const SlotFields &f = fieldsOf(number);
+    this->*f.adres = slot.ADRES;
+    this->*f.kod = slot.KOD;
+    this->*f.miejscowosc = slot.MIEJSCOWOSC;
+    this->*f.kraj = slot.ID_KRAJU;
+    this->*f.nazwa = slot.NAZWA;
 }

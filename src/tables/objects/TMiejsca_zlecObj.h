@@ -16,6 +16,24 @@ public:
 
     explicit TMiejsca_zlecObj(Connection &connection) : TableObject(connection) {}
 
+    // One numbered place of the record; an empty slot has empty texts and
+    // country 0. What a slot means is the forms' business.
+    struct Slot
+    {
+        QString ADRES;
+        QString KOD;
+        QString MIEJSCOWOSC;
+        int ID_KRAJU = 0;
+        QString NAZWA;
+
+        friend bool operator==(const Slot &, const Slot &) = default;
+    };
+    static constexpr int SlotCount = 18;
+
+    // number runs from 1 to SlotCount.
+    Slot slot(int number) const;
+    void setSlot(int number, const Slot &slot);
+
     int ID_MIEJSCA_ZLEC = 0;
     int ID_ZLECENIA = 0;
     QString ADRES1;

@@ -1,0 +1,214 @@
+#include "ScriptedMessages.h"
+#include "TableObjects.h"
+#include "TestDatabase.h"
+
+#include <gtest/gtest.h>
+
+namespace {
+
+void addCity(Connection &connection, const QString &name, const QString &code, int country)
+{
+    TMiastaObj city(connection);
+    city.NAZWA = name;
+    city.KOD = code;
+    city.IDKRAJU = country;
+    city.Insert();
+}
+
+} // namespace
+
+TEST(TableObject, KeysAscendWithInsertionAndMaxIdFindsTheNewOne)
+{
+    TestDatabase db;
+    TZlecenia_przychObj order(db.connection());
+    EXPECT_EQ(order.GetMaxId(), 0);
+    int previous = 0;
+    for (int i = 0; i < 3; ++i) {
+        order.NUMER = 10 - i;
+        order.Insert();
+        const int key = order.GetMaxId();
+        EXPECT_GT(key, previous);
+        EXPECT_EQ(order.SelectById(key).NUMER, 10 - i);
+        previous = key;
+    }
+}
+
+TEST(TableObject, SelectAllKeepsDatabaseOrderOrTheGivenOne)
+{
+    TestDatabase db;
+    for (const char *name : {"Radom", "Gdańsk", "Łódź", "Kraków"})
+        addCity(db.connection(), QString::fromUtf8(name), QString(), 1);
+    const TMiastaObj cities(db.connection());
+    const auto byKey = cities.SelectAll(QStringLiteral("ID_MIASTA"));
+    ASSERT_EQ(byKey.size(), 4u);
+    EXPECT_EQ(byKey.front().NAZWA, QStringLiteral("Radom"));
+    const auto byName = cities.SelectAll(QStringLiteral("NAZWA"));
+    EXPECT_EQ(byName.front().NAZWA, QStringLiteral("Gdańsk"));
+    const auto all = cities.SelectWhere(QString(), opEqual, QStringLiteral("ignored"));
+    EXPECT_EQ(all.size(), cities.SelectAll().size());
+}
+
+TEST(TableObject, ZeroDatesAreStoredAsNullAndNullReadsAsZero)
+{
+    TestDatabase db;
+    TZlecenia_przychObj order(db.connection());
+    order.DATA = DateTime::fromDate(QDate(2026, 11, 20));
+    order.Insert();
+    EXPECT_EQ(db.count(QStringLiteral("ZLECENIA_PRZYCH"),
+                       QStringLiteral("AWIZO IS NULL AND DOSTARCZENIE IS NULL AND DATA IS NOT NULL")),
+              1);
+
+    TZlecenia_przychObj read = order.SelectById(order.GetMaxId());
+    EXPECT_TRUE(read.AWIZO.isNull());
+    EXPECT_EQ(read.DATA.date(), QDate(2026, 11, 20));
+    read.DATA = DateTime();
+    read.Update();
+    EXPECT_EQ(db.count(QStringLiteral("ZLECENIA_PRZYCH"), QStringLiteral("DATA IS NULL")), 1);
+}
+
+TEST(TableObject, EmptyTextIsStoredAsEmptyNotNull)
+{
+    TestDatabase db;
+    addCity(db.connection(), QStringLiteral("Opole"), QString(), 0);
+    EXPECT_EQ(db.count(QStringLiteral("MIASTA"), QStringLiteral("KOD = ''")), 1);
+}
+
+TEST(TableObject, LongTextsAreCutTo255OnRead)
+{
+    TestDatabase db;
+    // Another program of the suite may keep longer texts than we do.
+    db.exec(QStringLiteral("ALTER TABLE FAKTURY_TEKSTY ALTER NAZWA TYPE VARCHAR(400)"));
+    const QString longText = QString(300, QChar(0x0105));
+    db.exec(QStringLiteral("INSERT INTO FAKTURY_TEKSTY (NAZWA) VALUES ('%1')").arg(longText));
+    const auto texts = TFaktury_tekstyObj(db.connection()).SelectAll();
+    ASSERT_EQ(texts.size(), 1u);
+    EXPECT_EQ(texts.front().NAZWA, longText.left(255));
+}
+
+TEST(TableObject, SelectWhereBindsTheValueByTheColumnType)
+{
+    TestDatabase db;
+    TTaryfyprzewoznikaObj tariff(db.connection());
+    tariff.NAZWA_STAWKI = QStringLiteral("Dwunasta");
+    tariff.NUMER_STAWKI = 12;
+    tariff.KWOTA_ZA_KM = 1.25;
+    tariff.Insert();
+    tariff.NAZWA_STAWKI = QStringLiteral("12");
+    tariff.NUMER_STAWKI = 7;
+    tariff.Insert();
+
+    // The text "12" is an integer for an integer column and text for a text column.
+    const auto byNumber = tariff.SelectWhere(QStringLiteral("NUMER_STAWKI"), opEqual, QStringLiteral("12"));
+    ASSERT_EQ(byNumber.size(), 1u);
+    EXPECT_EQ(byNumber.front().NAZWA_STAWKI, QStringLiteral("Dwunasta"));
+    const auto byName = tariff.SelectWhere(QStringLiteral("NAZWA_STAWKI"), opEqual, QStringLiteral("12"));
+    ASSERT_EQ(byName.size(), 1u);
+    EXPECT_EQ(byName.front().NUMER_STAWKI, 7);
+    EXPECT_EQ(tariff.SelectWhere(QStringLiteral("NAZWA_STAWKI"), opContaining, QStringLiteral("DWU")).size(), 1u);
+    EXPECT_EQ(tariff.SelectWhere(QStringLiteral("KWOTA_ZA_KM"), opGreater, 1.0).size(), 2u);
+    EXPECT_EQ(tariff.SelectWhere(QStringLiteral("NUMER_STAWKI"), opLess, 10, QStringLiteral("NUMER_STAWKI")).size(), 1u);
+}
+
+TEST(TableObject, SelectWhereOnADateTimeColumn)
+{
+    TestDatabase db;
+    TNumery_tabel_kursowObj table(db.connection());
+    for (int day = 1; day <= 3; ++day) {
+        table.NUMER = QStringLiteral("%1/A/NBP").arg(day);
+        table.Z_DNIA = DateTime::fromDate(QDate(2026, 11, day));
+        table.Insert();
+    }
+    const auto before = table.SelectWhere(QStringLiteral("Z_DNIA"), opLess,
+                                          QVariant::fromValue(DateTime::fromDate(QDate(2026, 11, 3))),
+                                          QStringLiteral("Z_DNIA"));
+    ASSERT_EQ(before.size(), 2u);
+    EXPECT_EQ(before.back().NUMER, QStringLiteral("2/A/NBP"));
+    EXPECT_EQ(table.SelectWhere(QStringLiteral("Z_DNIA"), opEqual, QDateTime(QDate(2026, 11, 1), QTime(0, 0)))
+                  .size(),
+              1u);
+}
+
+TEST(TableObject, UnbindableColumnTypeFailsWithTheSelectMessage)
+{
+    TestDatabase db;
+    addCity(db.connection(), QStringLiteral("Opole"), QString(), 1);
+    scriptedMessages().expect();
+    // A BIGINT expression is a type the table objects cannot bind.
+    const auto rows = TMiastaObj(db.connection())
+                          .SelectWhere(QStringLiteral("CAST(ID_MIASTA AS BIGINT)"), opEqual, 1);
+    EXPECT_TRUE(rows.empty());
+    ASSERT_EQ(scriptedMessages().shown().size(), 1u);
+    EXPECT_EQ(scriptedMessages().shown().front().caption, QStringLiteral("Błąd"));
+    EXPECT_EQ(scriptedMessages().shown().front().text,
+              QStringLiteral("Błąd przy pobieraniu danych z tabeli MIASTA"));
+}
+
+TEST(TableObject, SelectWhere2UsesTheFirstOperatorForBothConditions)
+{
+    TestDatabase db;
+    TKontrahenciObj contractor(db.connection());
+    for (const auto &[shortName, days] : {std::pair{"Trans-Pol", 14}, {"Transbud", 30}, {"Polmar", 30}}) {
+        contractor.SKROT = QString::fromUtf8(shortName);
+        contractor.PLATNOSC_DNI = days;
+        contractor.Insert();
+    }
+    // opContaining on both: "30" is looked for in PLATNOSC_DNI with CONTAINING
+    // too, even though opEqual was asked for the second condition.
+    const auto rows = contractor.SelectWhere2(QStringLiteral("SKROT"), opContaining, QStringLiteral("trans"),
+                                              QStringLiteral("PLATNOSC_DNI"), opEqual, 3,
+                                              QStringLiteral("SKROT"));
+    ASSERT_EQ(rows.size(), 1u);
+    EXPECT_EQ(rows.front().SKROT, QStringLiteral("Transbud"));
+}
+
+TEST(TableObject, SelectDistinctNeverReturnsEmptyTexts)
+{
+    TestDatabase db;
+    for (const char *code : {"00-950", "", "00-950", "31-000"})
+        addCity(db.connection(), QStringLiteral("x"), QString::fromUtf8(code), 1);
+    db.exec(QStringLiteral("INSERT INTO MIASTA (NAZWA, KOD) VALUES ('y', NULL)"));
+    QStringList codes = TMiastaObj(db.connection()).SelectDistinct(QStringLiteral("KOD"));
+    codes.sort();
+    EXPECT_EQ(codes, (QStringList{QStringLiteral("00-950"), QStringLiteral("31-000")}));
+}
+
+TEST(TableObject, SelectByIdOfAMissingKeyGivesKeyZero)
+{
+    TestDatabase db;
+    const TUsersObj user = TUsersObj(db.connection()).SelectById(42);
+    EXPECT_EQ(user.ID_USER, 0);
+    EXPECT_TRUE(user.LOGIN.isEmpty());
+    EXPECT_TRUE(user.PASSCHANGED.isNull());
+}
+
+TEST(TableObject, SelectClauseAndSelectOneTakeTheCallersTail)
+{
+    TestDatabase db;
+    TTowaryObj goods(db.connection());
+    for (int order : {5, 6, 5}) {
+        goods.ID_ZLECENIA = order;
+        goods.NAZWA = QStringLiteral("Paleta %1").arg(order);
+        goods.Insert();
+    }
+    EXPECT_EQ(goods.SelectClause(QStringLiteral("WHERE ID_ZLECENIA=5")).size(), 2u);
+    EXPECT_EQ(goods.SelectClause(QString()).size(), 3u);
+    EXPECT_EQ(goods.SelectOne(QStringLiteral("WHERE ID_ZLECENIA=6")).NAZWA, QStringLiteral("Paleta 6"));
+}
+
+TEST(TableObject, UpdateAndDeleteGoByTheKey)
+{
+    TestDatabase db;
+    TUsersObj user(db.connection());
+    user.LOGIN = QStringLiteral("anowak");
+    user.Insert();
+    user.LOGIN = QStringLiteral("jkowal");
+    user.Insert();
+    auto users = user.SelectAll(QStringLiteral("ID_USER"));
+    users.front().NAZWISKO = QStringLiteral("Nowak");
+    users.front().Update();
+    users.back().Delete();
+    const auto left = user.SelectAll();
+    ASSERT_EQ(left.size(), 1u);
+    EXPECT_EQ(left.front().LOGIN, QStringLiteral("anowak"));
+    EXPECT_EQ(left.front().NAZWISKO, QStringLiteral("Nowak"));
+}
