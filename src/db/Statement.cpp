@@ -17,6 +17,7 @@ Statement::Statement(Connection &connection)
 Statement &Statement::add(const QString &line)
 {
     m_lines << line;
+    m_textKnown = false;
     return *this;
 }
 
@@ -25,11 +26,22 @@ void Statement::clear()
     close();
     m_lines.clear();
     m_bindings.clear();
+    m_textKnown = false;
 }
 
 QString Statement::text() const
 {
-    return m_lines.join(QLatin1Char('\n'));
+    refreshText();
+    return m_text;
+}
+
+void Statement::refreshText() const
+{
+    if (m_textKnown)
+        return;
+    m_text = m_lines.join(QLatin1Char('\n'));
+    m_placeholders = placeholders(m_text);
+    m_textKnown = true;
 }
 
 QStringList Statement::placeholders(const QString &sql)
@@ -65,7 +77,8 @@ QStringList Statement::placeholders(const QString &sql)
 void Statement::bindValue(const QString &name, const QVariant &value)
 {
     const QString bare = name.startsWith(QLatin1Char(':')) ? name.mid(1) : name;
-    if (!placeholders(text()).contains(bare))
+    refreshText();
+    if (!m_placeholders.contains(bare))
         throw DbError(QStringLiteral("Parametr %1 nie występuje w poleceniu: %2").arg(bare, text()));
     m_bindings.insert(bare, value);
 }
@@ -110,23 +123,34 @@ void Statement::fail(const QString &what) const
 
 void Statement::exec()
 {
-    close();
-    const QString sql = text();
-    for (const QString &name : placeholders(sql)) {
+    refreshText();
+    const QString &sql = m_text;
+    for (const QString &name : std::as_const(m_placeholders)) {
         if (!m_bindings.contains(name))
             throw DbError(QStringLiteral("Parametr %1 nie ma wartości: %2").arg(name, sql));
     }
-    m_query = QSqlQuery(m_connection.database());
-    m_query.setForwardOnly(m_uniDirectional);
-    if (!m_query.prepare(sql))
-        fail(QStringLiteral("Błąd przygotowania polecenia"));
+    // Running the same text again reuses the prepared statement.
+    const bool reuse = m_prepared && sql == m_preparedText && m_preparedUniDirectional == m_uniDirectional;
+    if (reuse) {
+        if (m_active)
+            m_query.finish();
+    } else {
+        close();
+        m_query.setForwardOnly(m_uniDirectional);
+        if (!m_query.prepare(sql))
+            fail(QStringLiteral("Błąd przygotowania polecenia"));
+        m_prepared = true;
+        m_preparedText = sql;
+        m_preparedUniDirectional = m_uniDirectional;
+    }
     for (auto it = m_bindings.cbegin(); it != m_bindings.cend(); ++it)
         m_query.bindValue(QLatin1Char(':') + it.key(), it.value());
+    m_active = false;
+    m_columnIndexes.clear();
+    m_atEnd = true;
     if (!m_query.exec())
         fail(QStringLiteral("Błąd wykonania polecenia"));
     m_active = true;
-    m_columnIndexes.clear();
-    m_atEnd = true;
     if (m_query.isSelect())
         next();
 }
@@ -154,6 +178,7 @@ void Statement::close()
         m_query.finish();
     // A finished SELECT still holds its snapshot until the query is replaced.
     m_query = QSqlQuery(m_connection.database());
+    m_prepared = false;
     m_active = false;
     m_atEnd = true;
     m_columnIndexes.clear();

@@ -43,6 +43,7 @@ public:
     void bindNull(const QString &name, QMetaType type);
 
     // Runs the statement; a SELECT is then positioned on its first row.
+    // Running it again with new values reuses the prepared statement.
     void exec();
     // Moves to the next row; false at the end.
     bool next();
@@ -75,14 +76,21 @@ public:
 
 private:
     void bindValue(const QString &name, const QVariant &value);
+    void refreshText() const;
     int requireColumn(const QString &name) const;
     void fail(const QString &what) const;
 
     Connection &m_connection;
     QStringList m_lines;
+    mutable QString m_text;
+    mutable QStringList m_placeholders;
+    mutable bool m_textKnown = false;
     QHash<QString, QVariant> m_bindings;
     QSqlQuery m_query;
     bool m_uniDirectional = false;
+    bool m_prepared = false;
+    bool m_preparedUniDirectional = false;
+    QString m_preparedText;
     bool m_active = false;
     bool m_atEnd = true;
     mutable QHash<QString, int> m_columnIndexes;

@@ -170,6 +170,16 @@ public:
         }
     }
 
+    // Binds every non-key column the way Insert and Update do: a zero date
+    // as NULL, an empty text as an empty text.
+    void bindColumns(Statement &st) const
+    {
+        for (const Column<Derived> &column : Derived::description().columns) {
+            const QString parameter = QStringLiteral("a") + column.name;
+            std::visit([&](auto member) { st.bind(parameter, self().*member); }, column.field);
+        }
+    }
+
 private:
     struct Condition
     {
@@ -207,14 +217,6 @@ private:
     {
         const auto &d = Derived::description();
         st.bind(QStringLiteral("a") + d.info.key, self().*(d.keyField));
-    }
-
-    void bindColumns(Statement &st) const
-    {
-        for (const Column<Derived> &column : Derived::description().columns) {
-            const QString parameter = QStringLiteral("a") + column.name;
-            std::visit([&](auto member) { st.bind(parameter, self().*member); }, column.field);
-        }
     }
 
     // The first condition's operator is used for every condition.

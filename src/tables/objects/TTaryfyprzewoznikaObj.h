@@ -3,7 +3,7 @@
 #include "TableObject.h"
 
 // Table TARYFYPRZEWOZNIKA: carrier tariffs: the amount in `KWOTA_ZA_KM`, which the forms show and
-// use as the amount per tonne (Part 6.2), per laden kilometre, per hour, per pallet; rate name and
+// use as the amount per tonne, per laden kilometre, per hour, per pallet; rate name and
 // number; own-tariff flag; storage; other.
 class TTaryfyprzewoznikaObj : public TableObject<TTaryfyprzewoznikaObj>
 {

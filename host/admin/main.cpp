@@ -1,0 +1,118 @@
+// haulix-admin: creates and fills databases of the suite.
+//
+//   haulix-admin create PATH               a new database from the schema
+//   haulix-admin seed PATH [--orders N]    the demo company into an empty database
+//   haulix-admin summary PATH              what a database holds
+//   haulix-admin demo                      the demo database in the user's data
+//                                          directory, created and seeded on first use
+
+#include "Connection.h"
+#include "DbError.h"
+#include "DemoDatabase.h"
+#include "DemoSeeder.h"
+#include "Schema.h"
+
+#include <QCoreApplication>
+#include <QElapsedTimer>
+#include <QTextStream>
+
+#include <cstdio>
+
+namespace {
+
+QTextStream &out()
+{
+    static QTextStream stream(stdout);
+    return stream;
+}
+
+QTextStream &err()
+{
+    static QTextStream stream(stderr);
+    return stream;
+}
+
+int usage()
+{
+    err() << "Użycie:\n"
+             "  haulix-admin create ŚCIEŻKA\n"
+             "  haulix-admin seed ŚCIEŻKA [--orders N]\n"
+             "  haulix-admin summary ŚCIEŻKA\n"
+             "  haulix-admin demo\n";
+    err().flush();
+    return 2;
+}
+
+void printSummary(const QString &path)
+{
+    Connection connection;
+    connection.open(path);
+    out() << "Baza: " << path << '\n';
+    for (const QString &line : DemoSeeder::summary(connection))
+        out() << line << '\n';
+    out().flush();
+}
+
+int seed(const QString &path, int orders)
+{
+    QElapsedTimer timer;
+    timer.start();
+    Connection connection;
+    connection.open(path);
+    DemoSeeder::Options options;
+    options.orders = orders;
+    DemoSeeder(connection, options).seed();
+    out() << QStringLiteral("Dane demonstracyjne zapisane (%1 zleceń) w %2 s.\n")
+                 .arg(orders)
+                 .arg(timer.elapsed() / 1000.0, 0, 'f', 1);
+    out().flush();
+    return 0;
+}
+
+} // namespace
+
+int main(int argc, char **argv)
+{
+    QCoreApplication app(argc, argv);
+    QCoreApplication::setOrganizationName(QStringLiteral("Kelvaro"));
+    QCoreApplication::setApplicationName(QStringLiteral("Haulix"));
+    const QStringList args = QCoreApplication::arguments().mid(1);
+    if (args.isEmpty())
+        return usage();
+    const QString command = args.first();
+    try {
+        if (command == QLatin1String("create") && args.size() == 2) {
+            Schema::createDatabase(args[1]);
+            out() << "Utworzono bazę danych: " << args[1] << '\n';
+            return 0;
+        }
+        if (command == QLatin1String("seed") && (args.size() == 2 || args.size() == 4)) {
+            int orders = DemoSeeder::Options().orders;
+            if (args.size() == 4) {
+                bool ok = false;
+                orders = args[3].toInt(&ok);
+                if (args[2] != QLatin1String("--orders") || !ok || orders < 0) {
+                    err() << "Liczba zleceń musi być liczbą całkowitą nieujemną: " << args[3] << '\n';
+                    return 2;
+                }
+            }
+            return seed(args[1], orders);
+        }
+        if (command == QLatin1String("summary") && args.size() == 2) {
+            printSummary(args[1]);
+            return 0;
+        }
+        if (command == QLatin1String("demo") && args.size() == 1) {
+            const QString path = DemoDatabase::ensure([](const QString &message) {
+                out() << message << '\n';
+                out().flush();
+            });
+            printSummary(path);
+            return 0;
+        }
+    } catch (const DbError &error) {
+        err() << "Błąd: " << error.message() << '\n';
+        return 1;
+    }
+    return usage();
+}

@@ -1,0 +1,120 @@
+#include "DbError.h"
+#include "DemoSeeder.h"
+#include "Schema.h"
+#include "TestDatabase.h"
+
+#include <QFile>
+#include <QFileInfo>
+
+#include <gtest/gtest.h>
+
+namespace {
+
+DemoSeeder::Options smallDemo()
+{
+    DemoSeeder::Options options;
+    options.orders = 150;
+    options.today = QDate(2026, 11, 22);
+    return options;
+}
+
+} // namespace
+
+TEST(DemoData, SeedsAConsistentCompany)
+{
+    TestDatabase db;
+    DemoSeeder(db.connection(), smallDemo()).seed();
+
+    EXPECT_EQ(db.count(QStringLiteral("ZLECENIA_PRZYCH"), QStringLiteral("DATA IS NOT NULL")), 150);
+    EXPECT_EQ(db.count(QStringLiteral("ZLECENIA_PRZYCH"),
+                       QStringLiteral("DATA NOT BETWEEN '2026-10-22' AND '2026-12-23'")), 0);
+    EXPECT_EQ(db.count(QStringLiteral("ZLECENIA_PRZYCH"), QStringLiteral("DATA IS NULL AND PALETYPLAN<>0")), 3);
+
+    // The configuration the forms read.
+    EXPECT_EQ(db.scalar(QStringLiteral("SELECT SKROT FROM KONTRAHENCI WHERE ID_KONTRAHENTA = "
+                                       "(SELECT VALUE_INT FROM KONFIGURACJA WHERE POLE='IDWłaściciela')")),
+              QStringLiteral("TRANS-WISŁA"));
+    EXPECT_EQ(db.scalar(QStringLiteral("SELECT SYMBOL FROM SYMBOLE_WALUT WHERE ID_WALUTY = "
+                                       "(SELECT VALUE_INT FROM KONFIGURACJA WHERE POLE='IDWalutyKrajowej')")),
+              QStringLiteral("PLN"));
+    for (const char *key : {"KartaZeZlecen", "MaskaNrFakturaVatZKraj", "VatKrajZlecSped", "SwwkuExpZlecHaulix",
+                            "DataSprzedazyKrotka", "SystemMonitorDelete"}) {
+        EXPECT_EQ(db.count(QStringLiteral("KONFIGURACJA"), QStringLiteral("POLE='%1'").arg(QLatin1String(key))), 1)
+            << key;
+    }
+    EXPECT_EQ(db.scalar(QStringLiteral("SELECT LIST(ID_STAWKI || '=' || CAST(PROCENT * 100 AS INTEGER), ' ') FROM "
+                                       "(SELECT ID_STAWKI, PROCENT FROM STAWKI_VAT ORDER BY ID_STAWKI)")),
+              QStringLiteral("1=23 2=0 3=0 4=0 5=23"));
+
+    // Every order has goods and its loading and unloading place.
+    EXPECT_EQ(db.count(QStringLiteral("ZLECENIA_PRZYCH z"),
+                       QStringLiteral("NOT EXISTS (SELECT 1 FROM TOWARY t WHERE t.ID_ZLECENIA = z.ID_ZLECENIA_PRZYCH)")),
+              0);
+    EXPECT_EQ(db.count(QStringLiteral("MIEJSCA_ZLEC")), 2 * db.count(QStringLiteral("ZLECENIA_PRZYCH")));
+
+    // Invoiced orders are on their invoice, one position each, and the
+    // invoice's net is the sum of its orders.
+    EXPECT_GT(db.count(QStringLiteral("ZLECENIA_PRZYCH"), QStringLiteral("IDFAKTURY <> 0")), 0);
+    EXPECT_EQ(db.count(QStringLiteral("ZLECENIA_PRZYCH z"),
+                       QStringLiteral("IDFAKTURY <> 0 AND NOT EXISTS (SELECT 1 FROM FAKTURY_POZYCJE p WHERE "
+                                      "p.ID_FAKTURY = z.IDFAKTURY AND p.ID_ZLECENIA = z.ID_ZLECENIA_PRZYCH)")),
+              0);
+    EXPECT_EQ(db.count(QStringLiteral("FAKTURY f"),
+                       QStringLiteral("ABS(f.WARTOSC_NETTO - (SELECT SUM(z.STAWKA_RAZEM) FROM ZLECENIA_PRZYCH z "
+                                      "WHERE z.IDFAKTURY = f.ID_FAKTURY)) > 0.005")),
+              0);
+    EXPECT_EQ(db.count(QStringLiteral("ZLECENIA_PRZYCH"), QStringLiteral("IDFAKTURY <> 0 AND DATA > '2026-11-17'")), 0);
+
+    // A tariff-priced order's total is the sum of its products rounded to cents.
+    EXPECT_EQ(db.count(QStringLiteral("ZLECENIA_PRZYCH"),
+                       QStringLiteral("IDTARYFY <> 0 AND ABS(STAWKA_RAZEM - (ROUND(KM_LADOWNE*STAWKA_KMLAD, 2) + "
+                                      "ROUND(KM_PUSTE*STAWKA_KMPUSTY, 2) + ROUND(ILOSC_GODZIN*STAWKA_GODZINY, 2) + "
+                                      "ROUND(PALETYILOSC*STAWKA_PALETY, 2))) > 0.005")),
+              0);
+
+    // Privileges: user 1 may do everything on every form; user 2 may not delete.
+    EXPECT_EQ(db.count(QStringLiteral("USER_ACCESS"), QStringLiteral("ID_USER=1 AND PRIVIL_DELETE=1")),
+              db.count(QStringLiteral("FORMS")));
+    EXPECT_EQ(db.count(QStringLiteral("USER_ACCESS a JOIN FORMS f ON f.ID_FORMATKI = a.ID_FORMATKI"),
+                       QStringLiteral("a.ID_USER=2 AND f.NAZWA='TfrmZlecPrzychodzace' AND a.PRIVIL_ADD=1 "
+                                      "AND a.PRIVIL_DELETE=0")),
+              1);
+}
+
+TEST(DemoData, SameOptionsGiveTheSameData)
+{
+    const QString fingerprint = QStringLiteral(
+        "SELECT LIST(NUMER || ':' || IDKONTRAHENTA || ':' || IDPRZEWOZNIK || ':' || STAWKA_RAZEM || ':' || IDFAKTURY, ',') "
+        "FROM (SELECT * FROM ZLECENIA_PRZYCH ORDER BY ID_ZLECENIA_PRZYCH)");
+    QString first;
+    for (int run = 0; run < 2; ++run) {
+        TestDatabase db;
+        DemoSeeder(db.connection(), smallDemo()).seed();
+        const QString current = db.scalar(fingerprint);
+        EXPECT_FALSE(current.isEmpty());
+        if (run == 0)
+            first = current;
+        else
+            EXPECT_EQ(current, first);
+    }
+}
+
+TEST(DemoData, SeedingANonEmptyDatabaseFailsAndAddsNothing)
+{
+    TestDatabase db;
+    DemoSeeder(db.connection(), smallDemo()).seed();
+    const int orders = db.count(QStringLiteral("ZLECENIA_PRZYCH"));
+    const int cities = db.count(QStringLiteral("MIASTA"));
+    EXPECT_THROW(DemoSeeder(db.connection(), smallDemo()).seed(), DbError);
+    EXPECT_EQ(db.count(QStringLiteral("ZLECENIA_PRZYCH")), orders);
+    EXPECT_EQ(db.count(QStringLiteral("MIASTA")), cities);
+}
+
+TEST(DemoData, CreatingADatabaseNeverOverwrites)
+{
+    TestDatabase db;
+    const qint64 size = QFileInfo(db.path()).size();
+    EXPECT_THROW(Schema::createDatabase(db.path()), DbError);
+    EXPECT_EQ(QFileInfo(db.path()).size(), size);
+    EXPECT_THROW(Schema::createDatabase(QStringLiteral("/proc/haulix/nowa.fdb")), DbError);
+}
