@@ -49,7 +49,8 @@ QString thousandsPart(int thousands)
     if (thousands <= 21)
         return words + QStringLiteral(" tysięcy ");
     const int last = thousands % 10;
-    return words + (last >= 2 && last <= 4 ? QStringLiteral(" tysiące ") : QStringLiteral(" tysięcy "));
+    const bool fewForm = last >= 2 && last <= 4;
+    return words + (fewForm ? QStringLiteral(" tysiące ") : QStringLiteral(" tysięcy "));
 }
 
 QString millionsPart(int firstDigit)

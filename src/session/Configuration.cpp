@@ -56,8 +56,10 @@ std::optional<Setting> readSetting(Connection *connection, const QString &name, 
     st.exec();
     if (st.atEnd())
         return std::nullopt;
-    return Setting{st.string(QStringLiteral("TYP")), st.integer(QStringLiteral("VALUE_INT")),
-                   st.string(QStringLiteral("VALUE_STRING")), st.number(QStringLiteral("VALUE_FLOAT")),
+    return Setting{st.string(QStringLiteral("TYP")),
+                   st.integer(QStringLiteral("VALUE_INT")),
+                   st.string(QStringLiteral("VALUE_STRING")),
+                   st.number(QStringLiteral("VALUE_FLOAT")),
                    st.dateTime(QStringLiteral("VALUE_DATE"))};
 }
 
@@ -118,7 +120,8 @@ QString floatToText(double value)
 
 int Configuration::GetConfigInt(const QString &name) const
 {
-    return readConverted("GetConfigInt", m_connection, name, NameMatch::Exact, 0, [](const Setting &s) {
+    return readConverted("GetConfigInt", m_connection, name, NameMatch::Exact, 0,
+                         [](const Setting &s) {
         if (s.typ == QLatin1String("I") || s.typ == QLatin1String("B"))
             return s.valueInt;
         if (s.typ == QLatin1String("S"))

@@ -20,7 +20,8 @@ QString platformSuffix()
 
 } // namespace
 
-SiblingLibrary::SiblingLibrary(const QString &appPath, const QString &name, const QStringList &entryNames)
+SiblingLibrary::SiblingLibrary(const QString &appPath, const QString &name,
+                               const QStringList &entryNames)
     : m_path(pathFor(appPath, name)), m_entryNames(entryNames), m_library(m_path)
 {
 }
@@ -43,7 +44,8 @@ bool SiblingLibrary::load()
         loaded = m_library.load();
     }
     if (!loaded) {
-        Messages::error(QStringLiteral("Nie znaleziono biblioteki: ") + QDir::toNativeSeparators(m_path));
+        Messages::error(QStringLiteral("Nie znaleziono biblioteki: ")
+                        + QDir::toNativeSeparators(m_path));
         return false;
     }
     for (const QString &name : m_entryNames)

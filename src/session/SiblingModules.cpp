@@ -9,7 +9,7 @@
 
 #include <cstdint>
 
-static_assert(sizeof(int) == sizeof(std::int32_t), "keys are handed to siblings as 32-bit integers");
+static_assert(sizeof(int) == sizeof(std::int32_t), "siblings take keys as 32-bit integers");
 
 namespace {
 

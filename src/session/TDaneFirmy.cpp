@@ -165,55 +165,52 @@ QString TDaneFirmy::AmountInWords(double amount)
     return AmountInWords::words(amount);
 }
 
+SiblingModules TDaneFirmy::siblings() const
+{
+    return SiblingModules(GetAppPath(), m_context);
+}
+
 int TDaneFirmy::SelectDriver(int currentID, int &selectedID) const
 {
-    return SiblingModules(GetAppPath(), m_context)
-        .select(SiblingModules::Register::Drivers, currentID, selectedID);
+    return siblings().select(SiblingModules::Register::Drivers, currentID, selectedID);
 }
 
 int TDaneFirmy::SelectPlace(int currentID, int &selectedID) const
 {
-    return SiblingModules(GetAppPath(), m_context)
-        .select(SiblingModules::Register::Places, currentID, selectedID);
+    return siblings().select(SiblingModules::Register::Places, currentID, selectedID);
 }
 
 int TDaneFirmy::SelectCity(int currentID, int &selectedID) const
 {
-    return SiblingModules(GetAppPath(), m_context)
-        .select(SiblingModules::Register::Cities, currentID, selectedID);
+    return siblings().select(SiblingModules::Register::Cities, currentID, selectedID);
 }
 
 int TDaneFirmy::SelectVehicle(int currentID, int &selectedID) const
 {
-    return SiblingModules(GetAppPath(), m_context)
-        .select(SiblingModules::Register::Vehicles, currentID, selectedID);
+    return siblings().select(SiblingModules::Register::Vehicles, currentID, selectedID);
 }
 
 int TDaneFirmy::SelectTrailer(int currentID, int &selectedID) const
 {
-    return SiblingModules(GetAppPath(), m_context)
-        .select(SiblingModules::Register::Trailers, currentID, selectedID);
+    return siblings().select(SiblingModules::Register::Trailers, currentID, selectedID);
 }
 
 int TDaneFirmy::SelectContractor(int currentID, int &selectedID) const
 {
-    return SiblingModules(GetAppPath(), m_context)
-        .select(SiblingModules::Register::Contractors, currentID, selectedID);
+    return siblings().select(SiblingModules::Register::Contractors, currentID, selectedID);
 }
 
 bool TDaneFirmy::EditRoadCard(int cardID) const
 {
-    return SiblingModules(GetAppPath(), m_context).editRoadCard(cardID);
+    return siblings().editRoadCard(cardID);
 }
 
 bool TDaneFirmy::ShowScheduler() const
 {
-    return SiblingModules(GetAppPath(), m_context)
-        .showScheduler(SiblingModules::SchedulerView::Calendar);
+    return siblings().showScheduler(SiblingModules::SchedulerView::Calendar);
 }
 
 bool TDaneFirmy::ShowAppointments() const
 {
-    return SiblingModules(GetAppPath(), m_context)
-        .showScheduler(SiblingModules::SchedulerView::Appointments);
+    return siblings().showScheduler(SiblingModules::SchedulerView::Appointments);
 }

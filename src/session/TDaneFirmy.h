@@ -4,6 +4,7 @@
 #include "DateTime.h"
 #include "SessionContext.h"
 #include "SettingsFile.h"
+#include "SiblingModules.h"
 
 #include <QString>
 #include <QVariant>
@@ -64,8 +65,9 @@ public:
     // then 0 is returned. The domestic currency ("IDWalutyKrajowej") gives
     // rate 1 and quantity 1 without a query and the amount to the cent.
     // DbError reaches the caller.
-    double ConvertCurrency(int &tableID, int currencyID, DateTime &date, int &quantity, double &rate,
-                           int nameLength, QString &tableNumber, double amount) const;
+    double ConvertCurrency(int &tableID, int currencyID, DateTime &date, int &quantity,
+                           double &rate, int nameLength, QString &tableNumber,
+                           double amount) const;
     static double RoundTo2(double amount);
     static QString AmountInWords(double amount);
 
@@ -87,6 +89,7 @@ public:
 
 private:
     Connection &database() const;
+    SiblingModules siblings() const;
 
     const SessionContext &m_context;
     HostEnvironment m_host;

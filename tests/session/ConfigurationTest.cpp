@@ -32,8 +32,10 @@ protected:
 
 TEST_F(ConfigurationTest, FloatAndBoolFindAMixedCaseNameByItsUpperCaseAndIntAndStringDoNot)
 {
-    add(QStringLiteral("SystemMonitorDelete"), QStringLiteral("B"), QStringLiteral("1, NULL, NULL, NULL"));
-    add(QStringLiteral("KursDomyslny"), QStringLiteral("F"), QStringLiteral("NULL, NULL, 4.25, NULL"));
+    add(QStringLiteral("SystemMonitorDelete"), QStringLiteral("B"),
+        QStringLiteral("1, NULL, NULL, NULL"));
+    add(QStringLiteral("KursDomyslny"), QStringLiteral("F"),
+        QStringLiteral("NULL, NULL, 4.25, NULL"));
 
     EXPECT_TRUE(config.GetConfigBool(QStringLiteral("SYSTEMMONITORDELETE")));
     EXPECT_FALSE(config.GetConfigBool(QStringLiteral("SystemMonitorDelete")));

@@ -62,7 +62,8 @@ TEST_F(SettingsFileTest, ASystemDirectoryWithASeparatorGetsNoSecondOne)
 TEST_F(SettingsFileTest, AMissingAppPathIsWrittenFromTheExecutableDirectory)
 {
     const QString ini = path(QStringLiteral("Haulix.ini"));
-    EXPECT_EQ(SettingsFile::appPath(ini, QStringLiteral("/opt/haulix")), QStringLiteral("/opt/haulix"));
+    EXPECT_EQ(SettingsFile::appPath(ini, QStringLiteral("/opt/haulix")),
+              QStringLiteral("/opt/haulix"));
     QSettings written(ini, QSettings::IniFormat);
     EXPECT_EQ(written.value(QStringLiteral("AppPath")).toString(), QStringLiteral("/opt/haulix/"));
 

@@ -212,5 +212,6 @@ TEST_F(SiblingModulesTest, ALibraryWithoutTheSelectionEntryIsReportedNotCalled)
     ASSERT_EQ(scriptedMessages().shown().size(), 1u);
     EXPECT_TRUE(scriptedMessages().shown().front().text.endsWith(
         QStringLiteral("nie udostępnia funkcji Run_WybierzPojazd")));
-    EXPECT_EQ(log(), (QStringList{QStringLiteral("load Vehicles"), QStringLiteral("unload Vehicles")}));
+    EXPECT_EQ(log(),
+              (QStringList{QStringLiteral("load Vehicles"), QStringLiteral("unload Vehicles")}));
 }
