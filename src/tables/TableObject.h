@@ -39,14 +39,15 @@ public:
 
     Connection &connection() const { return *m_connection; }
 
-    void Insert()
+    // False after a failure, which has been shown and logged already.
+    bool Insert()
     {
         const auto &d = Derived::description();
         Statement st(*m_connection);
         for (const QString &line : TableStatements::insertLines(d.info.table, d.columnNames()))
             st.add(line);
         bindColumns(st);
-        guarded(TableStatements::Operation::Insert, [&] { st.exec(); });
+        return guarded(TableStatements::Operation::Insert, [&] { st.exec(); });
     }
 
     void Update()

@@ -1,0 +1,100 @@
+#include "SettingsFile.h"
+
+#include <QDir>
+#include <QFile>
+#include <QSettings>
+#include <QTemporaryDir>
+
+#include <gtest/gtest.h>
+
+namespace {
+
+class SettingsFileTest : public testing::Test
+{
+protected:
+    QString path(const QString &name) const { return m_dir.filePath(name); }
+
+    void touch(const QString &file) const
+    {
+        QFile f(file);
+        ASSERT_TRUE(f.open(QIODevice::WriteOnly));
+    }
+
+    HostEnvironment host(const QStringList &arguments) const
+    {
+        return {arguments, path(QStringLiteral("bin")), path(QStringLiteral("etc"))};
+    }
+
+    QTemporaryDir m_dir;
+};
+
+} // namespace
+
+TEST_F(SettingsFileTest, ASingleUpperCaseIniArgumentNamesTheFile)
+{
+    EXPECT_EQ(SettingsFile::fileName(host({QStringLiteral("/srv/FIRMA2.INI")})),
+              QStringLiteral("/srv/FIRMA2.INI"));
+}
+
+TEST_F(SettingsFileTest, OtherArgumentsAreIgnored)
+{
+    const QString system = path(QStringLiteral("etc/Haulix.ini"));
+    EXPECT_EQ(SettingsFile::fileName(host({QStringLiteral("/srv/firma2.ini")})), system);
+    EXPECT_EQ(SettingsFile::fileName(host({QStringLiteral("A.INI"), QStringLiteral("B.INI")})),
+              system);
+    EXPECT_EQ(SettingsFile::fileName(host({})), system);
+}
+
+TEST_F(SettingsFileTest, TheFileBesideTheExecutableComesBeforeTheSystemOne)
+{
+    ASSERT_TRUE(QDir(m_dir.path()).mkdir(QStringLiteral("bin")));
+    const QString beside = path(QStringLiteral("bin/Haulix.ini"));
+    touch(beside);
+    EXPECT_EQ(SettingsFile::fileName(host({})), beside);
+}
+
+TEST_F(SettingsFileTest, ASystemDirectoryWithASeparatorGetsNoSecondOne)
+{
+    const HostEnvironment environment{{}, path(QStringLiteral("bin")), QStringLiteral("/etc/")};
+    EXPECT_EQ(SettingsFile::fileName(environment), QStringLiteral("/etc/Haulix.ini"));
+}
+
+TEST_F(SettingsFileTest, AMissingAppPathIsWrittenFromTheExecutableDirectory)
+{
+    const QString ini = path(QStringLiteral("Haulix.ini"));
+    EXPECT_EQ(SettingsFile::appPath(ini, QStringLiteral("/opt/haulix")),
+              QStringLiteral("/opt/haulix"));
+    QSettings written(ini, QSettings::IniFormat);
+    EXPECT_EQ(written.value(QStringLiteral("AppPath")).toString(), QStringLiteral("/opt/haulix/"));
+
+    QFile file(ini);
+    ASSERT_TRUE(file.open(QIODevice::ReadOnly));
+    EXPECT_TRUE(file.readAll().contains("[General]"));
+}
+
+TEST_F(SettingsFileTest, AnEmptyAppPathIsReplacedAndAStoredOneKept)
+{
+    const QString ini = path(QStringLiteral("Haulix.ini"));
+    {
+        QSettings settings(ini, QSettings::IniFormat);
+        settings.setValue(QStringLiteral("AppPath"), QString());
+    }
+    EXPECT_EQ(SettingsFile::appPath(ini, QStringLiteral("/opt/a")), QStringLiteral("/opt/a"));
+    {
+        QSettings settings(ini, QSettings::IniFormat);
+        settings.setValue(QStringLiteral("AppPath"), QStringLiteral("D:\\Haulix\\"));
+    }
+    EXPECT_EQ(SettingsFile::appPath(ini, QStringLiteral("/opt/a")), QStringLiteral("D:\\Haulix"));
+}
+
+TEST_F(SettingsFileTest, ADriveRootIsStoredAsTheDriveAlone)
+{
+    EXPECT_EQ(SettingsFile::storedAppPath(QStringLiteral("C:/")), QStringLiteral("C:"));
+    EXPECT_EQ(SettingsFile::storedAppPath(QStringLiteral("C:\\")), QStringLiteral("C:"));
+    EXPECT_EQ(SettingsFile::storedAppPath(QStringLiteral("C:/Haulix")), QStringLiteral("C:/Haulix/"));
+
+    const QString ini = path(QStringLiteral("Haulix.ini"));
+    EXPECT_EQ(SettingsFile::appPath(ini, QStringLiteral("C:/")), QStringLiteral("C:"));
+    QSettings written(ini, QSettings::IniFormat);
+    EXPECT_EQ(written.value(QStringLiteral("AppPath")).toString(), QStringLiteral("C:"));
+}

@@ -1,0 +1,273 @@
+#include "Connection.h"
+#include "DbError.h"
+#include "ScriptedMessages.h"
+#include "SessionContext.h"
+#include "Statement.h"
+#include "TDaneFirmy.h"
+#include "TestDatabase.h"
+#include "Transaction.h"
+
+#include <gtest/gtest.h>
+
+#include <cmath>
+
+namespace {
+
+class TDaneFirmyTest : public testing::Test
+{
+protected:
+    TestDatabase db;
+    Transaction transaction{db.connection()};
+    SessionContext context{7, &db.connection(), &transaction};
+};
+
+int historyRowsSeenElsewhere(const QString &path)
+{
+    Connection other;
+    other.open(path);
+    Statement st(other);
+    st.add(QStringLiteral("SELECT COUNT(*) FROM HISTORY"));
+    st.exec();
+    return st.integer(0);
+}
+
+} // namespace
+
+TEST_F(TDaneFirmyTest, LoadsTheCompanyDataOnCreation)
+{
+    db.exec(QStringLiteral(
+        "INSERT INTO DANE_FIRMY (NAZWA, KOD, MIEJSCOWOSC, ADRES, POBOX, NIP, REGON, KONTAKT1, "
+        "KONTAKT6, MIEJSCE_WYSTAWIANIA, WOJEWODZTWO, EURONIP_1, EURONIP_3) VALUES ("
+        "'Trans-Żuraw Sp. z o.o.', '80-180', 'Gdańsk', 'ul. Przemysłowa 4', 'skr. 12', "
+        "'584-000-11-22', '190000000', 'tel. 58 300 00 00', 'biuro@example.pl', 'Gdańsk', "
+        "'pomorskie', 'PL5840001122', 'PL3')"));
+    const TDaneFirmy firma(context);
+    EXPECT_EQ(firma.NAZWA, QStringLiteral("Trans-Żuraw Sp. z o.o."));
+    EXPECT_EQ(firma.KOD, QStringLiteral("80-180"));
+    EXPECT_EQ(firma.MIEJSCOWOSC, QStringLiteral("Gdańsk"));
+    EXPECT_EQ(firma.ADRES, QStringLiteral("ul. Przemysłowa 4"));
+    EXPECT_EQ(firma.POBOX, QStringLiteral("skr. 12"));
+    EXPECT_EQ(firma.NIP, QStringLiteral("584-000-11-22"));
+    EXPECT_EQ(firma.REGON, QStringLiteral("190000000"));
+    EXPECT_EQ(firma.KONTAKT1, QStringLiteral("tel. 58 300 00 00"));
+    EXPECT_EQ(firma.KONTAKT2, QString());
+    EXPECT_EQ(firma.KONTAKT6, QStringLiteral("biuro@example.pl"));
+    EXPECT_EQ(firma.MIEJSCE_WYSTAWIANIA, QStringLiteral("Gdańsk"));
+    EXPECT_EQ(firma.WOJEWODZTWO, QStringLiteral("pomorskie"));
+    EXPECT_EQ(firma.EURONIP_1, QStringLiteral("PL5840001122"));
+    EXPECT_EQ(firma.EURONIP_3, QStringLiteral("PL3"));
+}
+
+TEST_F(TDaneFirmyTest, WithoutCompanyDataOrDatabaseTheTextsStayEmpty)
+{
+    EXPECT_EQ(TDaneFirmy(context).NAZWA, QString());
+    const SessionContext noDatabase;
+    const TDaneFirmy firma(noDatabase);
+    EXPECT_EQ(firma.NAZWA, QString());
+    EXPECT_EQ(firma.GetConfigInt(QStringLiteral("IDWalutyKrajowej")), 0);
+}
+
+TEST_F(TDaneFirmyTest, WorkstationNamesKeepTheirLimits)
+{
+    EXPECT_LE(TDaneFirmy::GetComputerName().size(), 16);
+    EXPECT_FALSE(TDaneFirmy::GetLoginName().isEmpty());
+    EXPECT_LE(TDaneFirmy::GetLoginName().size(), 51);
+}
+
+TEST_F(TDaneFirmyTest, WriteHistoryStoresOneCommittedRow)
+{
+    const TDaneFirmy firma(context);
+    const double before = DateTime::now().days();
+    EXPECT_TRUE(firma.WriteHistory(QVariantList{12, QStringLiteral("Gdańsk"), 2.5}, 3, 17));
+    EXPECT_FALSE(transaction.InTransaction());
+    EXPECT_EQ(historyRowsSeenElsewhere(db.path()), 1);
+
+    Statement st(db.connection());
+    st.add(QStringLiteral("SELECT * FROM HISTORY"));
+    st.exec();
+    EXPECT_EQ(st.integer(QStringLiteral("USERID")), 7);
+    EXPECT_EQ(st.integer(QStringLiteral("OPERACJA")), 3);
+    EXPECT_EQ(st.integer(QStringLiteral("GRUPA")), 17);
+    EXPECT_EQ(st.string(QStringLiteral("HISTORY_PARAMS")), QStringLiteral("12,Gdańsk,2.5"));
+    EXPECT_EQ(st.string(QStringLiteral("COMPNAME")), TDaneFirmy::GetComputerName());
+    EXPECT_EQ(st.string(QStringLiteral("COMPUSER")), TDaneFirmy::GetLoginName());
+    // Stored to the millisecond, read back within a minute of the call.
+    EXPECT_LT(std::fabs(st.dateTime(QStringLiteral("CZAS")).days() - before), 1.0 / 1440);
+}
+
+TEST_F(TDaneFirmyTest, WriteHistoryTakesASingleValueAsItsText)
+{
+    const TDaneFirmy firma(context);
+    EXPECT_TRUE(firma.WriteHistory(QVariant(42), 1, 0));
+    EXPECT_TRUE(firma.WriteHistory(QStringList{QStringLiteral("a"), QStringLiteral("b")}, 2, 0));
+    EXPECT_EQ(db.scalar(QStringLiteral("SELECT LIST(HISTORY_PARAMS, '|') FROM "
+                                       "(SELECT HISTORY_PARAMS FROM HISTORY ORDER BY ID_HISTORY)")),
+              QStringLiteral("42|a,b"));
+}
+
+TEST_F(TDaneFirmyTest, WriteHistoryInsideARunningTransactionLeavesItToTheCaller)
+{
+    const TDaneFirmy firma(context);
+    transaction.StartTransaction();
+    EXPECT_TRUE(firma.WriteHistory(QStringLiteral("x"), 3, 1));
+    EXPECT_TRUE(transaction.InTransaction());
+    transaction.Rollback();
+    EXPECT_EQ(db.count(QStringLiteral("HISTORY")), 0);
+}
+
+TEST_F(TDaneFirmyTest, AFailedHistoryInsertIsReportedAndLeavesNothing)
+{
+    const TDaneFirmy firma(context);
+    scriptedMessages().expect(MessageService::Ok);
+    EXPECT_FALSE(firma.WriteHistory(QString(300, QLatin1Char('x')), 3, 1));
+    ASSERT_EQ(scriptedMessages().shown().size(), 1u);
+    EXPECT_EQ(scriptedMessages().shown().front().text,
+              QStringLiteral("Błąd przy dodawaniu danych do tabeli HISTORY"));
+    EXPECT_FALSE(transaction.InTransaction());
+    EXPECT_EQ(db.count(QStringLiteral("HISTORY")), 0);
+}
+
+TEST_F(TDaneFirmyTest, FormatsDocumentNumbersAndMoney)
+{
+    EXPECT_EQ(TDaneFirmy::FormatDocumentNumber(QStringLiteral("%###;/;%R"), 5, QString(),
+                                               DateTime::fromDate(QDate(2024, 1, 2))),
+              QStringLiteral("005/2024"));
+    EXPECT_DOUBLE_EQ(TDaneFirmy::RoundTo2(2.345), 2.35);
+    EXPECT_EQ(TDaneFirmy::AmountInWords(12.5), QStringLiteral("dwanaście 50/100"));
+}
+
+namespace {
+
+class ConvertCurrencyTest : public TDaneFirmyTest
+{
+protected:
+    ConvertCurrencyTest()
+    {
+        db.exec(QStringLiteral("INSERT INTO KONFIGURACJA (POLE, TYP, VALUE_INT) "
+                               "VALUES ('IDWalutyKrajowej', 'I', 1)"));
+        addTable(QStringLiteral("A/1"), QStringLiteral("2024-03-01"));
+        march4 = addTable(QStringLiteral("A/2"), QStringLiteral("2024-03-04"));
+        march10 = addTable(QStringLiteral("A/3"), QStringLiteral("2024-03-10"));
+        addRate(march4, Euro, 4.3215, 1);
+        addRate(march4, Forint, 1.1, 100);
+        addRate(march4, Quarter, 0.25, 1);
+        addRate(march10, Euro, 4.4, 1);
+    }
+
+    int addTable(const QString &number, const QString &date)
+    {
+        db.exec(QStringLiteral("INSERT INTO NUMERY_TABEL_KURSOW (NUMER, Z_DNIA) VALUES ('%1', '%2')")
+                    .arg(number, date));
+        return db.scalar(QStringLiteral("SELECT MAX(ID_NUM_TAB) FROM NUMERY_TABEL_KURSOW")).toInt();
+    }
+
+    void addRate(int table, int currency, double rate, int quantity)
+    {
+        db.exec(QStringLiteral("INSERT INTO TABELE_KURSOW (ID_NUM_TAB, ID_WALUTY, KURS, ILOSC) "
+                               "VALUES (%1, %2, %3, %4)")
+                    .arg(table)
+                    .arg(currency)
+                    .arg(rate)
+                    .arg(quantity));
+    }
+
+    static DateTime day(int year, int month, int dayOfMonth)
+    {
+        return DateTime::fromDate(QDate(year, month, dayOfMonth));
+    }
+
+    static constexpr int Zloty = 1;
+    static constexpr int Euro = 2;
+    static constexpr int Forint = 3;
+    static constexpr int Quarter = 4;
+    static constexpr int Dollar = 5;
+    int march4 = 0;
+    int march10 = 0;
+    int tableID = 0;
+    DateTime date = day(2024, 3, 5);
+    int quantity = -7;
+    double rate = -7.0;
+    QString tableNumber = QStringLiteral("przed");
+};
+
+} // namespace
+
+TEST_F(ConvertCurrencyTest, TheDomesticCurrencyNeedsNoTable)
+{
+    db.exec(QStringLiteral("DELETE FROM NUMERY_TABEL_KURSOW"));
+    const TDaneFirmy firma(context);
+    tableID = 0;
+    const double result =
+        firma.ConvertCurrency(tableID, Zloty, date, quantity, rate, 20, tableNumber, 100.0);
+    EXPECT_EQ(quantity, 1);
+    EXPECT_DOUBLE_EQ(rate, 1.0);
+    EXPECT_DOUBLE_EQ(result, 100.0);
+    EXPECT_EQ(tableID, 0);
+    EXPECT_EQ(date, day(2024, 3, 5));
+    EXPECT_EQ(tableNumber, QStringLiteral("przed"));
+}
+
+TEST_F(ConvertCurrencyTest, TakesTheLatestTableOnOrBeforeTheDate)
+{
+    const TDaneFirmy firma(context);
+    const double result =
+        firma.ConvertCurrency(tableID, Euro, date, quantity, rate, 20, tableNumber, 100.0);
+    EXPECT_EQ(tableID, march4);
+    EXPECT_EQ(date, day(2024, 3, 4));
+    EXPECT_EQ(tableNumber, QStringLiteral("A/2"));
+    EXPECT_DOUBLE_EQ(rate, 4.3215);
+    EXPECT_EQ(quantity, 1);
+    EXPECT_DOUBLE_EQ(result, 432.15);
+
+    tableID = 0;
+    date = day(2024, 3, 5);
+    EXPECT_DOUBLE_EQ(firma.ConvertCurrency(tableID, Forint, date, quantity, rate, 20, tableNumber,
+                                           1000.0),
+                     11.0);
+    EXPECT_EQ(quantity, 100);
+}
+
+TEST_F(ConvertCurrencyTest, RoundsHalfCentsToTheEvenCent)
+{
+    const TDaneFirmy firma(context);
+    EXPECT_DOUBLE_EQ(firma.ConvertCurrency(tableID, Quarter, date, quantity, rate, 20, tableNumber,
+                                           0.5),
+                     0.12);
+    tableID = 0;
+    EXPECT_DOUBLE_EQ(firma.ConvertCurrency(tableID, Quarter, date, quantity, rate, 20, tableNumber,
+                                           1.5),
+                     0.38);
+}
+
+TEST_F(ConvertCurrencyTest, AGivenTableIsUsedWithItsNumberCut)
+{
+    const TDaneFirmy firma(context);
+    tableID = march10;
+    const double result =
+        firma.ConvertCurrency(tableID, Euro, date, quantity, rate, 2, tableNumber, 10.0);
+    EXPECT_EQ(tableID, march10);
+    EXPECT_EQ(tableNumber, QStringLiteral("A/"));
+    EXPECT_EQ(date, day(2024, 3, 5));
+    EXPECT_DOUBLE_EQ(result, 44.0);
+}
+
+TEST_F(ConvertCurrencyTest, NoTableOrNoRateGivesQuantityZero)
+{
+    const TDaneFirmy firma(context);
+    date = day(2024, 2, 1);
+    EXPECT_DOUBLE_EQ(firma.ConvertCurrency(tableID, Euro, date, quantity, rate, 20, tableNumber,
+                                           100.0),
+                     0.0);
+    EXPECT_EQ(tableID, -1);
+    EXPECT_EQ(quantity, 0);
+    EXPECT_DOUBLE_EQ(rate, 0.0);
+    EXPECT_EQ(date, day(2024, 2, 1));
+
+    tableID = 0;
+    date = day(2024, 3, 5);
+    EXPECT_DOUBLE_EQ(firma.ConvertCurrency(tableID, Dollar, date, quantity, rate, 20, tableNumber,
+                                           100.0),
+                     0.0);
+    EXPECT_EQ(tableID, march4);
+    EXPECT_EQ(quantity, 0);
+}
