@@ -15,6 +15,9 @@ class ReportLabel
 {
 public:
     using ValueFunction = std::function<QVariant()>;
+    // A lambda joining texts with + must say "-> QString": with
+    // QT_USE_QSTRINGBUILDER it would otherwise return a builder that points
+    // at temporaries gone by the time the text is read.
     using Formatter = std::function<QString(const QVariant &)>;
     // Page numbers are known only once the whole report is laid out.
     using PageTextFunction = std::function<QString(int page, int pageCount)>;

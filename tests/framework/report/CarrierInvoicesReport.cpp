@@ -1,0 +1,91 @@
+#include "CarrierInvoicesReport.h"
+
+#include <QLocale>
+
+std::vector<CarrierInvoice> sampleInvoices(int carriers, int perCarrier)
+{
+    static const QStringList names{QStringLiteral("Łódzki Transport"),
+                                   QStringLiteral("Gdańska Spedycja"),
+                                   QStringLiteral("Źródło Żwirowe"), QStringLiteral("Ośla Łąka")};
+    std::vector<CarrierInvoice> rows;
+    for (int c = 0; c < carriers; ++c) {
+        for (int i = 0; i < perCarrier; ++i) {
+            rows.push_back({names.at(c % names.size()) + QString::number(c / names.size() + 1),
+                            QStringLiteral("FV/%1/%2").arg(c + 1).arg(i + 1),
+                            100.0 * (c + 1) + 0.25 * i});
+        }
+    }
+    return rows;
+}
+
+QString money(const QVariant &value)
+{
+    return QLocale().toString(value.toDouble(), 'f', 2);
+}
+
+CarrierInvoicesReport::CarrierInvoicesReport(std::vector<CarrierInvoice> rows)
+    : m_rows(std::move(rows)), m_report(QStringLiteral("Faktury przewoźników"))
+{
+    m_report.setBeforePrint([this] { m_index = 0; });
+    m_report.setNeedData([this] {
+        if (m_index >= m_rows.size())
+            return false;
+        ++m_index;
+        return true;
+    });
+
+    ReportBand &header = m_report.addBand(BandType::PageHeader, QStringLiteral("QRBandHeader"), 10);
+    header.addLabel(QStringLiteral("lblTytul"), QRectF(0, 0, 190, 8),
+                    QStringLiteral("Faktury przewoźników niezapłacone"))
+        .setAlignment(Qt::AlignHCenter)
+        .setBold(true)
+        .setPointSize(12);
+
+    ReportBand &columns = m_report.addBand(BandType::ColumnHeader, QStringLiteral("QRBandColumns"), 8);
+    columns.addLabel(QStringLiteral("lblNumer"), QRectF(0, 0, 60, 8), QStringLiteral("Numer Faktury"));
+    columns.addLabel(QStringLiteral("lblKwota"), QRectF(140, 0, 50, 8),
+                     QStringLiteral("Kwota do zapłaty Brutto w zł"))
+        .setAlignment(Qt::AlignRight);
+    columns.addLine(QPointF(0, 8), QPointF(190, 8), 0.3);
+
+    m_group = &m_report.addGroup(QStringLiteral("QRGroupCarrier"), [this] { return current().carrier; });
+    ReportBand &groupHeader = m_group->addHeader(QStringLiteral("QRGroupHeader"), 7);
+    groupHeader.addLabel(QStringLiteral("lblPrzewoznik"), QRectF(0, 0, 190, 7))
+        .setValue([this] { return current().carrier; })
+        .setBold(true);
+
+    ReportBand &detail = m_report.addBand(BandType::Detail, QStringLiteral("QRBandDetail"), 6);
+    detail.addLabel(QStringLiteral("qrNumer"), QRectF(0, 0, 60, 6))
+        .setValue([this] { return current().number; });
+    detail.addLabel(QStringLiteral("qrKwota"), QRectF(140, 0, 50, 6))
+        .setValue([this] { return current().amount; })
+        .setFormatter(money)
+        .setAlignment(Qt::AlignRight);
+
+    const ReportSum &carrierSum = m_report.addSum(QStringLiteral("sumCarrier"),
+                                                  [this] { return current().amount; }, m_group);
+    ReportBand &groupFooter = m_group->addFooter(QStringLiteral("QRGroupFooter"), 7);
+    groupFooter.addLabel(QStringLiteral("lblRazem"), QRectF(100, 0, 40, 7), QStringLiteral("RAZEM ZŁ:"));
+    groupFooter.addLabel(QStringLiteral("qrSumaGrupy"), QRectF(140, 0, 50, 7))
+        .setValue(carrierSum.valueFunction())
+        .setFormatter(money)
+        .setAlignment(Qt::AlignRight)
+        .setFrame(Qt::TopEdge);
+
+    const ReportSum &total = m_report.addSum(QStringLiteral("sumTotal"),
+                                             [this] { return current().amount; });
+    ReportBand &summary = m_report.addBand(BandType::Summary, QStringLiteral("QRBandSummary"), 8);
+    summary.addLabel(QStringLiteral("lblOgolem"), QRectF(100, 0, 40, 8), QStringLiteral("Ogólem :"));
+    summary.addLabel(QStringLiteral("qrOgolem"), QRectF(140, 0, 50, 8))
+        .setValue(total.valueFunction())
+        .setFormatter(money)
+        .setAlignment(Qt::AlignRight)
+        .setBold(true);
+
+    ReportBand &footer = m_report.addBand(BandType::PageFooter, QStringLiteral("QRBandFooter"), 8);
+    footer.addLabel(QStringLiteral("lblStrona"), QRectF(140, 2, 50, 6))
+        .setPageText([](int page, int pageCount) {
+            return QStringLiteral("Strona %1 z %2").arg(page).arg(pageCount);
+        })
+        .setAlignment(Qt::AlignRight);
+}
