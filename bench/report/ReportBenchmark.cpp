@@ -34,8 +34,9 @@ std::vector<OrderRow> makeRows()
                               QStringLiteral("Śląskie Kruszywa"), QStringLiteral("Ośrodek Źródło")};
     std::vector<OrderRow> rows;
     for (int i = 0; i < rowCount; ++i) {
-        rows.push_back({i + 1, clients.at(i / 500), QStringLiteral("Kraków - Poznań %1").arg(i % 37),
-                        1000.0 + i * 1.5, 700.0 + i});
+        rows.push_back({i + 1, clients.at(i / 500),
+                        QStringLiteral("Kraków - Poznań %1").arg(i % 37), 1000.0 + i * 1.5,
+                        700.0 + i});
     }
     return rows;
 }
@@ -59,11 +60,14 @@ public:
         header.addLabel(QStringLiteral("tytul"), QRectF(0, 0, 200, 6),
                         QStringLiteral("Zestawienie zleceń w podziale na kontrahenta."))
             .setBold(true);
-        ReportBand &columns = m_report.addBand(BandType::ColumnHeader, QStringLiteral("kolumny"), 6);
+        ReportBand &columns
+            = m_report.addBand(BandType::ColumnHeader, QStringLiteral("kolumny"), 6);
         ReportBand &detail = m_report.addBand(BandType::Detail, QStringLiteral("wiersz"), 5);
         for (int column = 0; column < 12; ++column) {
             const QRectF box(column * 23.0, 0, 23.0, 5);
-            columns.addLabel(QStringLiteral("k%1").arg(column), box, QStringLiteral("Kolumna %1").arg(column))
+            columns
+                .addLabel(QStringLiteral("k%1").arg(column), box,
+                          QStringLiteral("Kolumna %1").arg(column))
                 .setFrame(Qt::BottomEdge);
             ReportLabel &cell = detail.addLabel(QStringLiteral("w%1").arg(column), box)
                                     .setValue([this, column] { return m_field(column); });
@@ -71,20 +75,23 @@ public:
                 cell.setFormatter(money).setAlignment(Qt::AlignRight);
         }
         m_group = &m_report.addGroup(QStringLiteral("klient"), [this] { return m_field(1); });
-        const ReportSum &groupSum = m_report.addSum(QStringLiteral("grupa"),
-                                                    [this] { return m_field(3).toDouble(); }, m_group);
+        const ReportSum &groupSum = m_report.addSum(
+            QStringLiteral("grupa"), [this] { return m_field(3).toDouble(); }, m_group);
         m_group->addFooter(QStringLiteral("stopka"), 6)
             .addLabel(QStringLiteral("suma"), QRectF(69, 0, 23, 6))
             .setValue(groupSum.valueFunction())
             .setFormatter(money);
-        const ReportSum &total = m_report.addSum(QStringLiteral("razem"), [this] { return m_field(3).toDouble(); });
+        const ReportSum &total
+            = m_report.addSum(QStringLiteral("razem"), [this] { return m_field(3).toDouble(); });
         m_report.addBand(BandType::Summary, QStringLiteral("podsumowanie"), 6)
             .addLabel(QStringLiteral("razem"), QRectF(69, 0, 23, 6))
             .setValue(total.valueFunction())
             .setFormatter(money);
         m_report.addBand(BandType::PageFooter, QStringLiteral("stopka"), 6)
             .addLabel(QStringLiteral("strona"), QRectF(200, 0, 76, 6))
-            .setPageText([](int page, int count) { return QStringLiteral("Strona %1 z %2").arg(page).arg(count); });
+            .setPageText([](int page, int count) {
+                return QStringLiteral("Strona %1 z %2").arg(page).arg(count);
+            });
     }
 
     Report &report() { return m_report; }
@@ -102,7 +109,8 @@ struct MemoryOrders
     MemoryOrders() : rows(makeRows())
     {
         orders.report().setBeforePrint([this] { index = 0; });
-        orders.report().setNeedData([this] { return index < rows.size() ? (++index, true) : false; });
+        orders.report().setNeedData(
+            [this] { return index < rows.size() ? (++index, true) : false; });
         orders.setField([this](int column) -> QVariant {
             const OrderRow &row = rows[index - 1];
             switch (column) {
@@ -145,7 +153,8 @@ struct DatabaseOrders
             }
             scope.commit();
         }
-        statement.add(QStringLiteral("SELECT NUMER_STAWKI, NAZWA_STAWKI, KWOTA_ZA_KM, KWOTA_ZA_GODZ"))
+        statement
+            .add(QStringLiteral("SELECT NUMER_STAWKI, NAZWA_STAWKI, KWOTA_ZA_KM, KWOTA_ZA_GODZ"))
             .add(QStringLiteral("FROM TARYFYPRZEWOZNIKA ORDER BY NUMER_STAWKI"));
         StatementCursor &cursor = orders.report().setCursor(statement);
         const QStringList names{QStringLiteral("NUMER_STAWKI"), QStringLiteral("NAZWA_STAWKI"),

@@ -32,7 +32,8 @@ ReportGroup &Report::addGroup(const QString &name, ReportGroup::KeyFunction key)
 ReportSum &Report::addSum(const QString &name, ReportSum::Expression expression,
                           const ReportGroup *resetGroup)
 {
-    return *m_sums.emplace_back(std::make_unique<ReportSum>(name, std::move(expression), resetGroup));
+    return *m_sums.emplace_back(
+        std::make_unique<ReportSum>(name, std::move(expression), resetGroup));
 }
 
 ReportBand &Report::band(const QString &name)

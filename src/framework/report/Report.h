@@ -32,7 +32,10 @@ public:
 
     ReportPageSetup &pageSetup() { return m_pageSetup; }
     const ReportPageSetup &pageSetup() const { return m_pageSetup; }
-    void setOrientation(QPageLayout::Orientation orientation) { m_pageSetup.orientation = orientation; }
+    void setOrientation(QPageLayout::Orientation orientation)
+    {
+        m_pageSetup.orientation = orientation;
+    }
 
     // Bands of one type print in the order they were added. Group headers
     // and footers belong to their group (addGroup).
@@ -54,7 +57,10 @@ public:
     ReportDataSource *dataSource() const { return m_dataSource.get(); }
 
     // Runs before each layout, e.g. to reset the report's own counters.
-    void setBeforePrint(std::function<void()> beforePrint) { m_beforePrint = std::move(beforePrint); }
+    void setBeforePrint(std::function<void()> beforePrint)
+    {
+        m_beforePrint = std::move(beforePrint);
+    }
     // Without rows a report prints its headers and summary, or nothing.
     bool printIfEmpty() const { return m_printIfEmpty; }
     void setPrintIfEmpty(bool print) { m_printIfEmpty = print; }

@@ -7,7 +7,8 @@ ReportBand::ReportBand(BandType type, const QString &name, double heightMm)
 {
 }
 
-ReportLabel &ReportBand::addLabel(const QString &name, const QRectF &geometryMm, const QString &text)
+ReportLabel &ReportBand::addLabel(const QString &name, const QRectF &geometryMm,
+                                  const QString &text)
 {
     return m_labels.emplace_back(name, geometryMm, text);
 }

@@ -111,7 +111,8 @@ QString ReportLabel::defaultText(const QVariant &value)
         return QString();
     if (value.metaType() == QMetaType::fromType<DateTime>()) {
         const DateTime dateTime = value.value<DateTime>();
-        return dateTime.isNull() ? QString() : dateTime.date().toString(QStringLiteral("yyyy-MM-dd"));
+        return dateTime.isNull() ? QString()
+                                 : dateTime.date().toString(QStringLiteral("yyyy-MM-dd"));
     }
     const QLocale locale;
     switch (value.typeId()) {

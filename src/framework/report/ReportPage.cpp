@@ -60,15 +60,16 @@ struct ItemLine
     QString operator()(const ReportTextItem &item) const
     {
         return QStringLiteral("text ") + rect(item.rectMm) + QLatin1Char(' ')
-            + alignmentName(item.alignment) + (item.wordWrap ? QStringLiteral(" wrap ") : QStringLiteral(" "))
+            + alignmentName(item.alignment)
+            + (item.wordWrap ? QStringLiteral(" wrap ") : QStringLiteral(" "))
             + quoted(item.font.family) + QLatin1Char(' ') + QString::number(item.font.pointSize)
             + QLatin1Char(' ') + styleName(item.font) + QLatin1Char(' ') + quoted(item.text);
     }
     QString operator()(const ReportLineItem &item) const
     {
-        return QStringLiteral("line ") + mm(item.fromMm.x()) + QLatin1Char(' ') + mm(item.fromMm.y())
-            + QLatin1Char(' ') + mm(item.toMm.x()) + QLatin1Char(' ') + mm(item.toMm.y())
-            + QLatin1Char(' ') + mm(item.widthMm);
+        return QStringLiteral("line ") + mm(item.fromMm.x()) + QLatin1Char(' ')
+            + mm(item.fromMm.y()) + QLatin1Char(' ') + mm(item.toMm.x()) + QLatin1Char(' ')
+            + mm(item.toMm.y()) + QLatin1Char(' ') + mm(item.widthMm);
     }
     QString operator()(const ReportBoxItem &item) const
     {

@@ -65,7 +65,8 @@ void ReportPainter::paintPage(QPainter &painter, const ReportPage &page, double 
     painter.restore();
 }
 
-void ReportPainter::setUpPrinter(QPrinter &printer, const ReportPageSetup &setup, const QString &title)
+void ReportPainter::setUpPrinter(QPrinter &printer, const ReportPageSetup &setup,
+                                 const QString &title)
 {
     printer.setFullPage(true);
     printer.setPageLayout(setup.pageLayout());

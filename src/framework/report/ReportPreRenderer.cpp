@@ -249,7 +249,8 @@ void ReportPreRenderer::place(const ReportBand &band, const QStringList &texts, 
             box.setHeight(qMax(box.height(), origin.y() + height - box.top()));
         if (label.pageText())
             m_pendingPageTexts.push_back({m_pages.size() - 1, items.size(), label.pageText()});
-        items.push_back(ReportTextItem{box, text, label.font(), label.alignment(), label.wordWrap()});
+        items.push_back(
+            ReportTextItem{box, text, label.font(), label.alignment(), label.wordWrap()});
         const Qt::Edges frame = label.frame();
         const double width = label.frameWidth();
         if (frame & Qt::TopEdge)

@@ -41,14 +41,17 @@ CarrierInvoicesReport::CarrierInvoicesReport(std::vector<CarrierInvoice> rows)
         .setBold(true)
         .setPointSize(12);
 
-    ReportBand &columns = m_report.addBand(BandType::ColumnHeader, QStringLiteral("QRBandColumns"), 8);
-    columns.addLabel(QStringLiteral("lblNumer"), QRectF(0, 0, 60, 8), QStringLiteral("Numer Faktury"));
+    ReportBand &columns
+        = m_report.addBand(BandType::ColumnHeader, QStringLiteral("QRBandColumns"), 8);
+    columns.addLabel(QStringLiteral("lblNumer"), QRectF(0, 0, 60, 8),
+                     QStringLiteral("Numer Faktury"));
     columns.addLabel(QStringLiteral("lblKwota"), QRectF(140, 0, 50, 8),
                      QStringLiteral("Kwota do zapłaty Brutto w zł"))
         .setAlignment(Qt::AlignRight);
     columns.addLine(QPointF(0, 8), QPointF(190, 8), 0.3);
 
-    m_group = &m_report.addGroup(QStringLiteral("QRGroupCarrier"), [this] { return current().carrier; });
+    m_group = &m_report.addGroup(QStringLiteral("QRGroupCarrier"),
+                                 [this] { return current().carrier; });
     ReportBand &groupHeader = m_group->addHeader(QStringLiteral("QRGroupHeader"), 7);
     groupHeader.addLabel(QStringLiteral("lblPrzewoznik"), QRectF(0, 0, 190, 7))
         .setValue([this] { return current().carrier; })
@@ -65,7 +68,8 @@ CarrierInvoicesReport::CarrierInvoicesReport(std::vector<CarrierInvoice> rows)
     const ReportSum &carrierSum = m_report.addSum(QStringLiteral("sumCarrier"),
                                                   [this] { return current().amount; }, m_group);
     ReportBand &groupFooter = m_group->addFooter(QStringLiteral("QRGroupFooter"), 7);
-    groupFooter.addLabel(QStringLiteral("lblRazem"), QRectF(100, 0, 40, 7), QStringLiteral("RAZEM ZŁ:"));
+    groupFooter.addLabel(QStringLiteral("lblRazem"), QRectF(100, 0, 40, 7),
+                         QStringLiteral("RAZEM ZŁ:"));
     groupFooter.addLabel(QStringLiteral("qrSumaGrupy"), QRectF(140, 0, 50, 7))
         .setValue(carrierSum.valueFunction())
         .setFormatter(money)
@@ -75,7 +79,8 @@ CarrierInvoicesReport::CarrierInvoicesReport(std::vector<CarrierInvoice> rows)
     const ReportSum &total = m_report.addSum(QStringLiteral("sumTotal"),
                                              [this] { return current().amount; });
     ReportBand &summary = m_report.addBand(BandType::Summary, QStringLiteral("QRBandSummary"), 8);
-    summary.addLabel(QStringLiteral("lblOgolem"), QRectF(100, 0, 40, 8), QStringLiteral("Ogólem :"));
+    summary.addLabel(QStringLiteral("lblOgolem"), QRectF(100, 0, 40, 8),
+                     QStringLiteral("Ogólem :"));
     summary.addLabel(QStringLiteral("qrOgolem"), QRectF(140, 0, 50, 8))
         .setValue(total.valueFunction())
         .setFormatter(money)

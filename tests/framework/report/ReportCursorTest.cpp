@@ -17,11 +17,12 @@ QString amount(const QVariant &value)
 
 void insertRate(TestDatabase &db, const QString &name, int number, const QString &amountSql)
 {
-    db.exec(QStringLiteral("INSERT INTO TARYFYPRZEWOZNIKA (NAZWA_STAWKI, NUMER_STAWKI, KWOTA_ZA_KM) "
-                           "VALUES ('%1', %2, %3)")
-                .arg(name)
-                .arg(number)
-                .arg(amountSql));
+    db.exec(
+        QStringLiteral("INSERT INTO TARYFYPRZEWOZNIKA (NAZWA_STAWKI, NUMER_STAWKI, KWOTA_ZA_KM) "
+                       "VALUES ('%1', %2, %3)")
+            .arg(name)
+            .arg(number)
+            .arg(amountSql));
 }
 
 // Rates grouped by their number, each group with its sum, and a total.
@@ -37,7 +38,8 @@ public:
         m_statement.bind(QStringLiteral("aValue"), 0.0);
         StatementCursor &cursor = m_report.setCursor(m_statement);
 
-        ReportGroup &group = m_report.addGroup(QStringLiteral("grupa"), cursor.field(QStringLiteral("NUMER_STAWKI")));
+        ReportGroup &group = m_report.addGroup(QStringLiteral("grupa"),
+                                               cursor.field(QStringLiteral("NUMER_STAWKI")));
         group.addHeader(QStringLiteral("naglowek"), 5)
             .addLabel(QStringLiteral("numer"), QRectF(0, 0, 40, 5))
             .setValue(cursor.field(QStringLiteral("NUMER_STAWKI")));
@@ -47,14 +49,16 @@ public:
         detail.addLabel(QStringLiteral("kwota"), QRectF(80, 0, 40, 5))
             .setValue(cursor.field(QStringLiteral("KWOTA_ZA_KM")))
             .setFormatter(amount);
-        const auto rate = [&cursor] { return cursor.value(QStringLiteral("KWOTA_ZA_KM")).toDouble(); };
+        const auto rate
+            = [&cursor] { return cursor.value(QStringLiteral("KWOTA_ZA_KM")).toDouble(); };
         const ReportSum &groupSum = m_report.addSum(QStringLiteral("suma"), rate, &group);
         group.addFooter(QStringLiteral("stopka"), 5)
             .addLabel(QStringLiteral("suma"), QRectF(80, 0, 40, 5))
             .setValue(groupSum.valueFunction())
             .setFormatter(amount);
         const ReportSum &total = m_report.addSum(QStringLiteral("razem"), rate);
-        ReportBand &summary = m_report.addBand(BandType::Summary, QStringLiteral("podsumowanie"), 5);
+        ReportBand &summary
+            = m_report.addBand(BandType::Summary, QStringLiteral("podsumowanie"), 5);
         summary.addLabel(QStringLiteral("razem"), QRectF(0, 0, 80, 5), QStringLiteral("Razem:"));
         summary.addLabel(QStringLiteral("kwota"), QRectF(80, 0, 40, 5))
             .setValue(total.valueFunction())
@@ -81,9 +85,9 @@ TEST(ReportCursor, QueryRowsDriveDetailGroupsAndSums)
     const std::vector<ReportPage> &pages = rates.report().prepare();
     ASSERT_EQ(pages.size(), 1u);
     EXPECT_EQ(pages[0].texts(),
-              (QStringList{QStringLiteral("1"), QStringLiteral("Gdańsk plandeka"), amount(1.25), amount(1.25),
-                           QStringLiteral("2"), QStringLiteral("Łódź chłodnia"), amount(2.5),
-                           QStringLiteral("Kraków wywrotka"), amount(3.0), amount(5.5),
+              (QStringList{QStringLiteral("1"), QStringLiteral("Gdańsk plandeka"), amount(1.25),
+                           amount(1.25), QStringLiteral("2"), QStringLiteral("Łódź chłodnia"),
+                           amount(2.5), QStringLiteral("Kraków wywrotka"), amount(3.0), amount(5.5),
                            QStringLiteral("Razem:"), amount(6.75)}));
 }
 
@@ -104,8 +108,9 @@ TEST(ReportCursor, EveryRunReadsTheDataAgain)
 TEST(ReportCursor, NullColumnsPrintEmptyAndSumAsZero)
 {
     TestDatabase db;
-    db.exec(QStringLiteral("INSERT INTO TARYFYPRZEWOZNIKA (NAZWA_STAWKI, NUMER_STAWKI, KWOTA_ZA_KM) "
-                           "VALUES ('Bez numeru', NULL, NULL)"));
+    db.exec(
+        QStringLiteral("INSERT INTO TARYFYPRZEWOZNIKA (NAZWA_STAWKI, NUMER_STAWKI, KWOTA_ZA_KM) "
+                       "VALUES ('Bez numeru', NULL, NULL)"));
     RatesReport rates(db.connection());
     rates.statement().clear();
     rates.statement().add(QStringLiteral("SELECT NAZWA_STAWKI, NUMER_STAWKI, KWOTA_ZA_KM"))

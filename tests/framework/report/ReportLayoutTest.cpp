@@ -121,10 +121,11 @@ TEST(ReportLayout, EmptyReportPrintsHeadersAndZeroSummary)
     CarrierInvoicesReport sample({});
     const std::vector<ReportPage> &pages = sample.report().prepare();
     ASSERT_EQ(pages.size(), 1u);
-    EXPECT_EQ(pages[0].texts(),
-              (QStringList{title, QStringLiteral("Numer Faktury"),
-                           QStringLiteral("Kwota do zapłaty Brutto w zł"), QStringLiteral("Ogólem :"),
-                           money(0.0), QStringLiteral("Strona 1 z 1")}));
+    EXPECT_EQ(
+        pages[0].texts(),
+        (QStringList{title, QStringLiteral("Numer Faktury"),
+                     QStringLiteral("Kwota do zapłaty Brutto w zł"), QStringLiteral("Ogólem :"),
+                     money(0.0), QStringLiteral("Strona 1 z 1")}));
 }
 
 TEST(ReportLayout, EmptyReportPrintsNothingWhenToldSo)
@@ -165,7 +166,8 @@ TEST(ReportLayout, BeforePrintCanHideRowsWhichThenCountInNoSum)
     const std::vector<ReportPage> &pages = sample.report().prepare();
     const QStringList texts = pages[0].texts();
     EXPECT_FALSE(texts.contains(QStringLiteral("FV/1/2")));
-    EXPECT_EQ(textsAfter(texts, QStringLiteral("RAZEM ZŁ:")), QStringList{money(100 + 100.5 + 100.75)});
+    EXPECT_EQ(textsAfter(texts, QStringLiteral("RAZEM ZŁ:")),
+              QStringList{money(100 + 100.5 + 100.75)});
     const auto items = textItems(pages[0], QStringLiteral("FV/1/3"));
     ASSERT_EQ(items.size(), 1u);
     EXPECT_TRUE(items[0]->font.bold);
@@ -208,25 +210,28 @@ TEST(ReportLayout, GroupHeaderIsRepeatedOnTheNextPageWhenAsked)
     const int nextRow = lastOnFirst.section(QLatin1Char('/'), 2).toInt() + 1;
     const QStringList second = pages[1].texts();
     ASSERT_GE(second.size(), 5);
-    EXPECT_EQ(second.mid(0, 5),
-              (QStringList{title, QStringLiteral("Numer Faktury"),
-                           QStringLiteral("Kwota do zapłaty Brutto w zł"),
-                           QStringLiteral("Łódzki Transport1"), QStringLiteral("FV/1/%1").arg(nextRow)}));
+    EXPECT_EQ(
+        second.mid(0, 5),
+        (QStringList{title, QStringLiteral("Numer Faktury"),
+                     QStringLiteral("Kwota do zapłaty Brutto w zł"),
+                     QStringLiteral("Łódzki Transport1"), QStringLiteral("FV/1/%1").arg(nextRow)}));
 }
 
 TEST(ReportLayout, RunningSumOnTheDetailIncludesItsOwnRow)
 {
     CarrierInvoicesReport sample(sampleInvoices(2, 2));
-    const ReportSum &running = sample.report().addSum(QStringLiteral("running"),
-                                                      [&sample] { return sample.current().amount; });
+    const ReportSum &running = sample.report().addSum(
+        QStringLiteral("running"), [&sample] { return sample.current().amount; });
     sample.report()
         .band(QStringLiteral("QRBandDetail"))
         .addLabel(QStringLiteral("qrNarastajaco"), QRectF(80, 0, 40, 6))
         .setValue(running.valueFunction())
         .setFormatter([](const QVariant &v) -> QString { return QStringLiteral("= ") + money(v); });
     const QStringList texts = sample.report().prepare()[0].texts().filter(QStringLiteral("= "));
-    EXPECT_EQ(texts, (QStringList{QStringLiteral("= ") + money(100), QStringLiteral("= ") + money(200.25),
-                                  QStringLiteral("= ") + money(400.25), QStringLiteral("= ") + money(600.5)}));
+    EXPECT_EQ(
+        texts,
+        (QStringList{QStringLiteral("= ") + money(100), QStringLiteral("= ") + money(200.25),
+                     QStringLiteral("= ") + money(400.25), QStringLiteral("= ") + money(600.5)}));
 }
 
 TEST(ReportLayout, NestedGroupsCloseInnerBeforeOuterAndRestartInnerOnOuterBreak)
@@ -245,27 +250,37 @@ TEST(ReportLayout, NestedGroupsCloseInnerBeforeOuterAndRestartInnerOnOuterBreak)
     Report report;
     report.setNeedData([&] { return index < rows.size() ? (++index, true) : false; });
     const auto current = [&]() -> const Row & { return rows.at(index - 1); };
-    ReportGroup &country = report.addGroup(QStringLiteral("kraj"), [&] { return current().country; });
+    ReportGroup &country
+        = report.addGroup(QStringLiteral("kraj"), [&] { return current().country; });
     ReportGroup &city = report.addGroup(QStringLiteral("miasto"), [&] { return current().city; });
-    const ReportSum &countrySum = report.addSum(QStringLiteral("k"), [&] { return current().amount; }, &country);
-    const ReportSum &citySum = report.addSum(QStringLiteral("m"), [&] { return current().amount; }, &city);
+    const ReportSum &countrySum = report.addSum(
+        QStringLiteral("k"), [&] { return current().amount; }, &country);
+    const ReportSum &citySum = report.addSum(
+        QStringLiteral("m"), [&] { return current().amount; }, &city);
     country.addHeader(QStringLiteral("hk"), 5).addLabel(QStringLiteral("l"), QRectF(0, 0, 50, 5))
         .setValue([&] { return QString(QStringLiteral("kraj ") + current().country); });
     city.addHeader(QStringLiteral("hm"), 5).addLabel(QStringLiteral("l"), QRectF(0, 0, 50, 5))
         .setValue([&] { return QString(QStringLiteral("miasto ") + current().city); });
-    city.addFooter(QStringLiteral("fm"), 5).addLabel(QStringLiteral("l"), QRectF(0, 0, 50, 5))
+    city.addFooter(QStringLiteral("fm"), 5)
+        .addLabel(QStringLiteral("l"), QRectF(0, 0, 50, 5))
         .setValue(citySum.valueFunction())
-        .setFormatter([](const QVariant &v) -> QString { return QStringLiteral("suma miasta ") + v.toString(); });
-    country.addFooter(QStringLiteral("fk"), 5).addLabel(QStringLiteral("l"), QRectF(0, 0, 50, 5))
+        .setFormatter([](const QVariant &v) -> QString {
+            return QStringLiteral("suma miasta ") + v.toString();
+        });
+    country.addFooter(QStringLiteral("fk"), 5)
+        .addLabel(QStringLiteral("l"), QRectF(0, 0, 50, 5))
         .setValue(countrySum.valueFunction())
-        .setFormatter([](const QVariant &v) -> QString { return QStringLiteral("suma kraju ") + v.toString(); });
+        .setFormatter([](const QVariant &v) -> QString {
+            return QStringLiteral("suma kraju ") + v.toString();
+        });
 
     const QStringList texts = report.prepare()[0].texts();
-    EXPECT_EQ(texts, (QStringList{QStringLiteral("kraj PL"), QStringLiteral("miasto Kraków"),
-                                  QStringLiteral("suma miasta 3"), QStringLiteral("miasto Łódź"),
-                                  QStringLiteral("suma miasta 4"), QStringLiteral("suma kraju 7"),
-                                  QStringLiteral("kraj DE"), QStringLiteral("miasto Łódź"),
-                                  QStringLiteral("suma miasta 8"), QStringLiteral("suma kraju 8")}));
+    EXPECT_EQ(texts,
+              (QStringList{QStringLiteral("kraj PL"), QStringLiteral("miasto Kraków"),
+                           QStringLiteral("suma miasta 3"), QStringLiteral("miasto Łódź"),
+                           QStringLiteral("suma miasta 4"), QStringLiteral("suma kraju 7"),
+                           QStringLiteral("kraj DE"), QStringLiteral("miasto Łódź"),
+                           QStringLiteral("suma miasta 8"), QStringLiteral("suma kraju 8")}));
 }
 
 TEST(ReportLayout, WrappedTextStretchesItsBandAndPushesTheNextOneDown)

@@ -32,12 +32,14 @@ QString popplerOutput(const QString &tool, const QStringList &arguments)
 
 QString pdfText(const QString &path)
 {
-    return popplerOutput(QStringLiteral("pdftotext"), {QStringLiteral("-layout"), path, QStringLiteral("-")});
+    return popplerOutput(QStringLiteral("pdftotext"),
+                         {QStringLiteral("-layout"), path, QStringLiteral("-")});
 }
 
 QString pdfInfo(const QString &path, const QString &key)
 {
-    const QStringList lines = popplerOutput(QStringLiteral("pdfinfo"), {path}).split(QLatin1Char('\n'));
+    const QStringList lines
+        = popplerOutput(QStringLiteral("pdfinfo"), {path}).split(QLatin1Char('\n'));
     for (const QString &line : lines) {
         if (line.startsWith(key + QLatin1Char(':')))
             return line.mid(key.size() + 1).trimmed();
@@ -105,7 +107,8 @@ TEST(ReportOutput, UnwritablePathIsReportedAndNothingIsWritten)
     scriptedMessages().expect(MessageService::Ok);
     EXPECT_FALSE(sample.report().exportPdf(path));
     ASSERT_EQ(scriptedMessages().shown().size(), 1u);
-    EXPECT_EQ(scriptedMessages().shown().front().text, QStringLiteral("Nie można zapisać pliku %1.").arg(path));
+    EXPECT_EQ(scriptedMessages().shown().front().text,
+              QStringLiteral("Nie można zapisać pliku %1.").arg(path));
     EXPECT_FALSE(QFileInfo::exists(path));
 }
 
