@@ -171,21 +171,13 @@ struct DatabaseOrders
     OrdersReport orders;
 };
 
-void preRenderFromMemory(benchmark::State &state)
+template<typename Orders>
+void preRender(benchmark::State &state)
 {
-    MemoryOrders memory;
+    Orders source;
     size_t pages = 0;
     for (auto _ : state)
-        pages = memory.orders.report().prepare().size();
-    state.counters["pages"] = static_cast<double>(pages);
-}
-
-void preRenderFromQuery(benchmark::State &state)
-{
-    DatabaseOrders database;
-    size_t pages = 0;
-    for (auto _ : state)
-        pages = database.orders.report().prepare().size();
+        pages = source.orders.report().prepare().size();
     state.counters["pages"] = static_cast<double>(pages);
 }
 
@@ -214,8 +206,8 @@ void preRenderAndWritePdf(benchmark::State &state)
 
 } // namespace
 
-BENCHMARK(preRenderFromMemory)->Unit(benchmark::kMillisecond);
-BENCHMARK(preRenderFromQuery)->Unit(benchmark::kMillisecond);
+BENCHMARK(preRender<MemoryOrders>)->Name("preRenderFromMemory")->Unit(benchmark::kMillisecond);
+BENCHMARK(preRender<DatabaseOrders>)->Name("preRenderFromQuery")->Unit(benchmark::kMillisecond);
 BENCHMARK(writePdf)->Unit(benchmark::kMillisecond);
 BENCHMARK(preRenderAndWritePdf)->Unit(benchmark::kMillisecond);
 

@@ -65,26 +65,24 @@ CarrierInvoicesReport::CarrierInvoicesReport(std::vector<CarrierInvoice> rows)
         .setFormatter(money)
         .setAlignment(Qt::AlignRight);
 
-    const ReportSum &carrierSum = m_report.addSum(QStringLiteral("sumCarrier"),
-                                                  [this] { return current().amount; }, m_group);
-    ReportBand &groupFooter = m_group->addFooter(QStringLiteral("QRGroupFooter"), 7);
-    groupFooter.addLabel(QStringLiteral("lblRazem"), QRectF(100, 0, 40, 7),
-                         QStringLiteral("RAZEM ZŁ:"));
-    groupFooter.addLabel(QStringLiteral("qrSumaGrupy"), QRectF(140, 0, 50, 7))
-        .setValue(carrierSum.valueFunction())
-        .setFormatter(money)
-        .setAlignment(Qt::AlignRight)
+    // A caption at the left of the amount column and the sum under it.
+    const auto addTotal = [](ReportBand &band, const QString &caption, const ReportSum &sum,
+                             const QString &valueName) -> ReportLabel & {
+        const double height = band.height();
+        band.addLabel(QStringLiteral("lbl") + valueName, QRectF(100, 0, 40, height), caption);
+        return band.addLabel(valueName, QRectF(140, 0, 50, height))
+            .setValue(sum.valueFunction())
+            .setFormatter(money)
+            .setAlignment(Qt::AlignRight);
+    };
+    const auto amount = [this] { return current().amount; };
+    const ReportSum &carrierSum = m_report.addSum(QStringLiteral("sumCarrier"), amount, m_group);
+    addTotal(m_group->addFooter(QStringLiteral("QRGroupFooter"), 7), QStringLiteral("RAZEM ZŁ:"),
+             carrierSum, QStringLiteral("qrSumaGrupy"))
         .setFrame(Qt::TopEdge);
-
-    const ReportSum &total = m_report.addSum(QStringLiteral("sumTotal"),
-                                             [this] { return current().amount; });
-    ReportBand &summary = m_report.addBand(BandType::Summary, QStringLiteral("QRBandSummary"), 8);
-    summary.addLabel(QStringLiteral("lblOgolem"), QRectF(100, 0, 40, 8),
-                     QStringLiteral("Ogólem :"));
-    summary.addLabel(QStringLiteral("qrOgolem"), QRectF(140, 0, 50, 8))
-        .setValue(total.valueFunction())
-        .setFormatter(money)
-        .setAlignment(Qt::AlignRight)
+    const ReportSum &total = m_report.addSum(QStringLiteral("sumTotal"), amount);
+    addTotal(m_report.addBand(BandType::Summary, QStringLiteral("QRBandSummary"), 8),
+             QStringLiteral("Ogólem :"), total, QStringLiteral("qrOgolem"))
         .setBold(true);
 
     ReportBand &footer = m_report.addBand(BandType::PageFooter, QStringLiteral("QRBandFooter"), 8);
