@@ -25,6 +25,11 @@ bool PdfFileReportOutput::deliver(Report &report, Kind kind)
 {
     if (!report.prepareShowingErrors())
         return false;
+    if (report.pages().empty()) {
+        // Nothing printed, so no file either.
+        m_deliveries.push_back(Delivery{kind, report.title(), QString(), 0});
+        return true;
+    }
     const QString name = QStringLiteral("%1-%2.pdf")
                              .arg(m_deliveries.size() + 1, 3, 10, QLatin1Char('0'))
                              .arg(kind == Kind::Preview ? QStringLiteral("podglad")

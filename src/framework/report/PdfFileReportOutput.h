@@ -18,7 +18,7 @@ public:
     {
         Kind kind;
         QString title;
-        QString path;
+        QString path; // empty when the report had no page
         int pageCount = 0;
     };
 

@@ -28,6 +28,9 @@ bool QtReportOutput::preview(Report &report)
 {
     if (!report.prepareShowingErrors())
         return false;
+    // A report that prints nothing when empty has nothing to show either.
+    if (report.pages().empty())
+        return true;
     QPrinter printer(QPrinter::HighResolution);
     ReportPainter::setUpPrinter(printer, report.pageSetup(), report.title());
     QPrintPreviewDialog dialog(&printer, QApplication::activeWindow());
@@ -50,6 +53,8 @@ bool QtReportOutput::print(Report &report)
 {
     if (!report.prepareShowingErrors())
         return false;
+    if (report.pages().empty())
+        return true;
     QPrinter printer(QPrinter::HighResolution);
     if (!printer.isValid()) {
         Messages::error(QStringLiteral("Brak dostępnej drukarki. Wydruk nie został wykonany."));

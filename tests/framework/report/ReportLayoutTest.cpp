@@ -1,4 +1,5 @@
 #include "CarrierInvoicesReport.h"
+#include "DateTime.h"
 #include "Report.h"
 
 #include <gtest/gtest.h>
@@ -335,4 +336,23 @@ TEST(ReportLayout, DisabledBandsAndUnknownNamesAreHandled)
     EXPECT_THROW(sample.report().band(QStringLiteral("QRBandNiema")), std::invalid_argument);
     EXPECT_THROW(sample.report().band(QStringLiteral("QRBandDetail")).label(QStringLiteral("x")),
                  std::invalid_argument);
+}
+
+TEST(ReportLayout, ValuesWithoutFormatterPrintInThePolishWay)
+{
+    const auto text = [](const QVariant &value) { return ReportLabel::defaultText(value); };
+    EXPECT_EQ(text(QVariant(1234.5)), QStringLiteral("1234,5"));
+    EXPECT_EQ(text(QVariant(-0.25)), QStringLiteral("-0,25"));
+    EXPECT_EQ(text(QVariant(42)), QStringLiteral("42"));
+    EXPECT_EQ(text(QVariant(QDate(2026, 3, 5))), QStringLiteral("2026-03-05"));
+    EXPECT_EQ(text(QVariant(QDateTime(QDate(2026, 3, 5), QTime(13, 30)))),
+              QStringLiteral("2026-03-05"));
+    EXPECT_EQ(text(QVariant::fromValue(DateTime::fromDate(QDate(2025, 12, 31)))),
+              QStringLiteral("2025-12-31"));
+    EXPECT_EQ(text(QVariant::fromValue(DateTime())), QString());
+    EXPECT_EQ(text(QVariant(QMetaType::fromType<double>())), QString());
+    EXPECT_EQ(text(QVariant(QByteArray("Żółw"))), QStringLiteral("Żółw"));
+
+    ReportLabel label(QStringLiteral("l"), QRectF(0, 0, 10, 5), QStringLiteral("Linia 1\r\nLinia 2"));
+    EXPECT_EQ(label.currentText(), QStringLiteral("Linia 1\nLinia 2"));
 }

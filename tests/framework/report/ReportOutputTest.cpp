@@ -5,6 +5,7 @@
 #include "ScriptedMessages.h"
 
 #include <QApplication>
+#include <QDir>
 #include <QFileInfo>
 #include <QPrintPreviewDialog>
 #include <QPrintPreviewWidget>
@@ -129,6 +130,20 @@ TEST(ReportOutput, PreviewAndPrintGoThroughTheInstalledOutput)
     EXPECT_EQ(pdfInfo(preview.path, QStringLiteral("Pages")), QStringLiteral("3"));
     EXPECT_EQ(files.deliveries()[1].kind, PdfFileReportOutput::Kind::Print);
     EXPECT_NE(files.deliveries()[1].path, preview.path);
+}
+
+TEST(ReportOutput, ReportWithoutPagesWritesNoFile)
+{
+    QTemporaryDir dir;
+    ScopedReportOutput scoped(std::make_unique<PdfFileReportOutput>(dir.path()));
+    auto &files = static_cast<PdfFileReportOutput &>(*scoped.get());
+    CarrierInvoicesReport sample({});
+    sample.report().setPrintIfEmpty(false);
+    ASSERT_TRUE(sample.report().preview());
+    ASSERT_EQ(files.deliveries().size(), 1u);
+    EXPECT_EQ(files.deliveries()[0].pageCount, 0);
+    EXPECT_TRUE(files.deliveries()[0].path.isEmpty());
+    EXPECT_TRUE(QDir(dir.path()).isEmpty());
 }
 
 TEST(ReportOutput, PreviewWindowShowsEveryPage)
