@@ -1,0 +1,102 @@
+#include "ReportPainter.h"
+
+#include "ReportError.h"
+
+#include <QDir>
+#include <QFileInfo>
+#include <QPainter>
+#include <QPdfWriter>
+#include <QPrinter>
+
+namespace {
+
+constexpr double mmPerInch = 25.4;
+// Fine enough for hairlines, small enough to keep files quick to write.
+constexpr int pdfResolution = 600;
+
+QRectF scaled(const QRectF &rectMm, double dotsPerMm)
+{
+    return QRectF(rectMm.x() * dotsPerMm, rectMm.y() * dotsPerMm, rectMm.width() * dotsPerMm,
+                  rectMm.height() * dotsPerMm);
+}
+
+QPen pen(double widthMm, double dotsPerMm)
+{
+    QPen pen(Qt::black);
+    pen.setWidthF(qMax(widthMm * dotsPerMm, 1.0));
+    return pen;
+}
+
+struct ItemPainter
+{
+    QPainter &painter;
+    double dotsPerMm;
+
+    void operator()(const ReportTextItem &item) const
+    {
+        if (item.text.isEmpty())
+            return;
+        painter.setPen(Qt::black);
+        painter.setFont(item.font.toQFont());
+        const int flags = static_cast<int>(item.alignment) | (item.wordWrap ? Qt::TextWordWrap : 0);
+        painter.drawText(scaled(item.rectMm, dotsPerMm), flags, item.text);
+    }
+    void operator()(const ReportLineItem &item) const
+    {
+        painter.setPen(pen(item.widthMm, dotsPerMm));
+        painter.drawLine(item.fromMm * dotsPerMm, item.toMm * dotsPerMm);
+    }
+    void operator()(const ReportBoxItem &item) const
+    {
+        painter.setPen(pen(item.widthMm, dotsPerMm));
+        painter.setBrush(Qt::NoBrush);
+        painter.drawRect(scaled(item.rectMm, dotsPerMm));
+    }
+};
+
+} // namespace
+
+void ReportPainter::paintPage(QPainter &painter, const ReportPage &page, double dotsPerMm)
+{
+    painter.save();
+    const ItemPainter itemPainter{painter, dotsPerMm};
+    for (const ReportItem &item : page.items)
+        std::visit(itemPainter, item);
+    painter.restore();
+}
+
+void ReportPainter::setUpPrinter(QPrinter &printer, const ReportPageSetup &setup,
+                                 const QString &title)
+{
+    printer.setFullPage(true);
+    printer.setPageLayout(setup.pageLayout());
+    printer.setDocName(title);
+}
+
+void ReportPainter::paintPages(QPagedPaintDevice &device, const std::vector<ReportPage> &pages)
+{
+    QPainter painter;
+    if (!painter.begin(&device))
+        throw ReportError(QStringLiteral("Nie można rozpocząć drukowania."));
+    const double dotsPerMm = device.logicalDpiX() / mmPerInch;
+    for (size_t index = 0; index < pages.size(); ++index) {
+        if (index > 0 && !device.newPage())
+            throw ReportError(QStringLiteral("Nie można rozpocząć nowej strony wydruku."));
+        paintPage(painter, pages[index], dotsPerMm);
+    }
+    painter.end();
+}
+
+void ReportPainter::writePdf(const QString &path, const std::vector<ReportPage> &pages,
+                             const ReportPageSetup &setup, const QString &title)
+{
+    const QFileInfo target(path);
+    if (!target.absoluteDir().exists() || (target.exists() && !target.isWritable()))
+        throw ReportError(QStringLiteral("Nie można zapisać pliku %1.").arg(path));
+    QPdfWriter writer(path);
+    writer.setResolution(pdfResolution);
+    writer.setPageLayout(setup.pageLayout());
+    writer.setTitle(title);
+    writer.setCreator(QStringLiteral("Haulix Zlecenia"));
+    paintPages(writer, pages);
+}

@@ -1,0 +1,63 @@
+#pragma once
+
+#include "ReportLabel.h"
+#include "ReportPage.h"
+
+#include <QStringList>
+#include <QVariantList>
+
+#include <vector>
+
+class Report;
+class ReportBand;
+
+// Lays a report out: runs the data source, the before-print callbacks, the
+// group breaks and the sums, and places every printed band on pages. Page
+// numbers are filled in once the number of pages is known.
+class ReportPreRenderer
+{
+public:
+    explicit ReportPreRenderer(Report &report);
+
+    std::vector<ReportPage> run();
+
+    // Height in millimetres that a text needs in a box of the given width.
+    static double textHeight(const ReportFont &font, double widthMm, bool wordWrap,
+                             const QString &text);
+
+private:
+    struct PendingPageText
+    {
+        size_t page;
+        size_t item;
+        ReportLabel::PageTextFunction text;
+    };
+
+    void printRows();
+    void startPage();
+    void finishPage(bool lastPage);
+    // Header-like bands are placed where the cursor stands, never breaking.
+    void printFixedBand(ReportBand &band);
+    // Body bands break to a new page when they do not fit; the band that
+    // takes a row adds it to the sums when it prints.
+    void printBodyBand(ReportBand &band, bool takesRow = false);
+    void addRowToSums();
+    void printGroupHeaders(size_t fromLevel);
+    void printGroupFooters(size_t fromLevel);
+    void resetSumsOf(size_t level);
+    QVariantList groupKeys() const;
+
+    QStringList resolveTexts(const ReportBand &band) const;
+    double bandHeight(const ReportBand &band, const QStringList &texts) const;
+    void place(const ReportBand &band, const QStringList &texts, double height);
+    void resolvePageTexts();
+    ReportPage &page() { return m_pages.back(); }
+
+    Report &m_report;
+    std::vector<ReportPage> m_pages;
+    std::vector<PendingPageText> m_pendingPageTexts;
+    double m_y = 0.0;
+    double m_bodyBottom = 0.0;
+    bool m_bodyStarted = false;
+    size_t m_openGroups = 0;
+};

@@ -1,0 +1,168 @@
+#include "CarrierInvoicesReport.h"
+#include "PdfFileReportOutput.h"
+#include "QtReportOutput.h"
+#include "Report.h"
+#include "ScriptedMessages.h"
+
+#include <QApplication>
+#include <QDir>
+#include <QFileInfo>
+#include <QPrintPreviewDialog>
+#include <QPrintPreviewWidget>
+#include <QProcess>
+#include <QTemporaryDir>
+#include <QTimer>
+
+#include <gtest/gtest.h>
+
+namespace {
+
+// Runs a poppler tool and returns what it printed; a missing tool fails the
+// test, since the machine was set up without poppler-utils.
+QString popplerOutput(const QString &tool, const QStringList &arguments)
+{
+    QProcess process;
+    process.start(tool, arguments);
+    if (!process.waitForFinished(60000) || process.exitCode() != 0) {
+        ADD_FAILURE() << tool.toStdString() << " failed: "
+                      << process.readAllStandardError().toStdString();
+        return QString();
+    }
+    return QString::fromUtf8(process.readAllStandardOutput());
+}
+
+QString pdfText(const QString &path)
+{
+    return popplerOutput(QStringLiteral("pdftotext"),
+                         {QStringLiteral("-layout"), path, QStringLiteral("-")});
+}
+
+QString pdfInfo(const QString &path, const QString &key)
+{
+    const QStringList lines
+        = popplerOutput(QStringLiteral("pdfinfo"), {path}).split(QLatin1Char('\n'));
+    for (const QString &line : lines) {
+        if (line.startsWith(key + QLatin1Char(':')))
+            return line.mid(key.size() + 1).trimmed();
+    }
+    return QString();
+}
+
+class ScopedReportOutput
+{
+public:
+    explicit ScopedReportOutput(std::unique_ptr<ReportOutput> output)
+        : m_output(output.get()), m_previous(ReportOutput::install(std::move(output)))
+    {
+    }
+    ~ScopedReportOutput() { ReportOutput::install(std::move(m_previous)); }
+    ReportOutput *get() const { return m_output; }
+
+private:
+    ReportOutput *m_output;
+    std::unique_ptr<ReportOutput> m_previous;
+};
+
+const QString pangram = QStringLiteral("Zażółć gęślą jaźń, ĄĘŁŃÓŚŹŻ");
+
+} // namespace
+
+TEST(ReportOutput, HeadlessPdfHoldsThePolishTextsOnA4Pages)
+{
+    QTemporaryDir dir;
+    CarrierInvoicesReport sample(sampleInvoices(3, 30));
+    sample.report()
+        .band(QStringLiteral("QRBandColumns"))
+        .addLabel(QStringLiteral("lblUwagi"), QRectF(62, 0, 76, 8), pangram);
+    const QString path = dir.filePath(QStringLiteral("przewoznicy.pdf"));
+    ASSERT_TRUE(sample.report().exportPdf(path));
+
+    EXPECT_EQ(pdfInfo(path, QStringLiteral("Pages")), QStringLiteral("3"));
+    EXPECT_EQ(pdfInfo(path, QStringLiteral("Page size")), QStringLiteral("595 x 842 pts (A4)"));
+    EXPECT_EQ(pdfInfo(path, QStringLiteral("Title")), QStringLiteral("Faktury przewoźników"));
+    const QString text = pdfText(path);
+    EXPECT_EQ(text.count(pangram), 3) << text.toStdString();
+    EXPECT_TRUE(text.contains(QStringLiteral("Faktury przewoźników niezapłacone")));
+    EXPECT_TRUE(text.contains(QStringLiteral("Źródło Żwirowe1")));
+    EXPECT_TRUE(text.contains(QStringLiteral("RAZEM ZŁ:")));
+    EXPECT_TRUE(text.contains(QStringLiteral("Strona 3 z 3")));
+    // The third page starts after the second form feed.
+    EXPECT_TRUE(text.section(QLatin1Char('\f'), 2, 2).contains(QStringLiteral("Ogólem :")));
+}
+
+TEST(ReportOutput, LandscapeReportGivesLandscapeSheets)
+{
+    QTemporaryDir dir;
+    CarrierInvoicesReport sample(sampleInvoices(1, 2));
+    sample.report().setOrientation(QPageLayout::Landscape);
+    const QString path = dir.filePath(QStringLiteral("poziomo.pdf"));
+    ASSERT_TRUE(sample.report().exportPdf(path));
+    EXPECT_EQ(pdfInfo(path, QStringLiteral("Page size")), QStringLiteral("842 x 595 pts (A4)"));
+}
+
+TEST(ReportOutput, UnwritablePathIsReportedAndNothingIsWritten)
+{
+    QTemporaryDir dir;
+    CarrierInvoicesReport sample(sampleInvoices(1, 2));
+    const QString path = dir.filePath(QStringLiteral("brak/katalogu.pdf"));
+    scriptedMessages().expect(MessageService::Ok);
+    EXPECT_FALSE(sample.report().exportPdf(path));
+    ASSERT_EQ(scriptedMessages().shown().size(), 1u);
+    EXPECT_EQ(scriptedMessages().shown().front().text,
+              QStringLiteral("Nie można zapisać pliku %1.").arg(path));
+    EXPECT_FALSE(QFileInfo::exists(path));
+}
+
+TEST(ReportOutput, PreviewAndPrintGoThroughTheInstalledOutput)
+{
+    QTemporaryDir dir;
+    ScopedReportOutput scoped(std::make_unique<PdfFileReportOutput>(dir.path()));
+    auto &files = static_cast<PdfFileReportOutput &>(*scoped.get());
+    CarrierInvoicesReport sample(sampleInvoices(3, 30));
+    ASSERT_TRUE(sample.report().preview());
+    ASSERT_TRUE(sample.report().print());
+
+    ASSERT_EQ(files.deliveries().size(), 2u);
+    const PdfFileReportOutput::Delivery &preview = files.deliveries()[0];
+    EXPECT_EQ(preview.kind, PdfFileReportOutput::Kind::Preview);
+    EXPECT_EQ(preview.title, QStringLiteral("Faktury przewoźników"));
+    EXPECT_EQ(preview.pageCount, 3);
+    EXPECT_EQ(pdfInfo(preview.path, QStringLiteral("Pages")), QStringLiteral("3"));
+    EXPECT_EQ(files.deliveries()[1].kind, PdfFileReportOutput::Kind::Print);
+    EXPECT_NE(files.deliveries()[1].path, preview.path);
+}
+
+TEST(ReportOutput, ReportWithoutPagesWritesNoFile)
+{
+    QTemporaryDir dir;
+    ScopedReportOutput scoped(std::make_unique<PdfFileReportOutput>(dir.path()));
+    auto &files = static_cast<PdfFileReportOutput &>(*scoped.get());
+    CarrierInvoicesReport sample({});
+    sample.report().setPrintIfEmpty(false);
+    ASSERT_TRUE(sample.report().preview());
+    ASSERT_EQ(files.deliveries().size(), 1u);
+    EXPECT_EQ(files.deliveries()[0].pageCount, 0);
+    EXPECT_TRUE(files.deliveries()[0].path.isEmpty());
+    EXPECT_TRUE(QDir(dir.path()).isEmpty());
+}
+
+TEST(ReportOutput, PreviewWindowShowsEveryPage)
+{
+    CarrierInvoicesReport sample(sampleInvoices(3, 30));
+    int shownPages = -1;
+    QString windowTitle;
+    // The dialog runs its own event loop; look at it from inside and close it.
+    QTimer::singleShot(0, [&] {
+        auto *dialog = qobject_cast<QPrintPreviewDialog *>(QApplication::activeModalWidget());
+        if (!dialog)
+            return;
+        windowTitle = dialog->windowTitle();
+        if (auto *widget = dialog->findChild<QPrintPreviewWidget *>())
+            shownPages = widget->pageCount();
+        dialog->reject();
+    });
+    QtReportOutput output;
+    EXPECT_TRUE(output.preview(sample.report()));
+    EXPECT_EQ(windowTitle, QStringLiteral("Podgląd wydruku"));
+    EXPECT_EQ(shownPages, 3);
+}
