@@ -129,12 +129,13 @@ void Statement::exec()
         if (!m_bindings.contains(name))
             throw DbError(QStringLiteral("Parametr %1 nie ma wartości: %2").arg(name, sql));
     }
-    // Running the same text again reuses the prepared statement.
-    const bool reuse = m_prepared && sql == m_preparedText && m_preparedUniDirectional == m_uniDirectional;
-    if (reuse) {
-        if (m_active)
-            m_query.finish();
-    } else {
+    // Running the same INSERT, UPDATE or DELETE again reuses the prepared
+    // statement. A SELECT is prepared afresh: the driver keeps a query's
+    // snapshot until the query object goes, and a new run must see rows
+    // committed since.
+    const bool reuse = m_prepared && !m_query.isSelect() && sql == m_preparedText
+        && m_preparedUniDirectional == m_uniDirectional;
+    if (!reuse) {
         close();
         m_query.setForwardOnly(m_uniDirectional);
         if (!m_query.prepare(sql))

@@ -43,7 +43,7 @@ public:
     void bindNull(const QString &name, QMetaType type);
 
     // Runs the statement; a SELECT is then positioned on its first row.
-    // Running it again with new values reuses the prepared statement.
+    // Running a non-SELECT again with new values reuses the prepared statement.
     void exec();
     // Moves to the next row; false at the end.
     bool next();

@@ -85,3 +85,20 @@ TEST(Statement, ErrorsCarryTheDatabaseMessage)
         EXPECT_TRUE(error.message().contains(QStringLiteral("Table unknown"))) << error.what();
     }
 }
+
+TEST(Statement, RunningASelectAgainSeesRowsCommittedMeanwhile)
+{
+    TestDatabase db;
+    Statement select(db.connection());
+    select.add(QStringLiteral("SELECT COUNT(*) FROM MIARY"));
+    select.exec();
+    EXPECT_EQ(select.integer(0), 0);
+    Statement insert(db.connection());
+    insert.add(QStringLiteral("INSERT INTO MIARY (NAZWA) VALUES (:aNAZWA)"));
+    for (const char *name : {"tona", "paleta"}) {
+        insert.bind(QStringLiteral("aNAZWA"), QString::fromUtf8(name));
+        insert.exec();
+    }
+    select.exec();
+    EXPECT_EQ(select.integer(0), 2);
+}
