@@ -1,0 +1,30 @@
+#include "HostOptions.h"
+
+std::optional<HostOptions> HostOptions::parse(const QStringList &arguments, QString &error)
+{
+    HostOptions options;
+    for (qsizetype i = 0; i < arguments.size(); ++i) {
+        const QString &argument = arguments.at(i);
+        const bool hasValue = i + 1 < arguments.size();
+        if (argument == QLatin1String("--db") && hasValue) {
+            options.database = arguments.at(++i);
+        } else if (argument == QLatin1String("--user") && hasValue) {
+            bool ok = false;
+            options.userId = arguments.at(++i).toInt(&ok);
+            if (!ok || options.userId <= 0) {
+                error = QStringLiteral("Identyfikator użytkownika musi być liczbą dodatnią: %1")
+                            .arg(arguments.at(i));
+                return std::nullopt;
+            }
+        } else if (argument == QLatin1String("--report")) {
+            options.partnersReport = true;
+        } else {
+            error = QStringLiteral("Nieznany argument: %1\n"
+                                   "Użycie: haulix [--db ŚCIEŻKA | --db host[/port]:ścieżka] "
+                                   "[--user ID] [--report]")
+                        .arg(argument);
+            return std::nullopt;
+        }
+    }
+    return options;
+}

@@ -1,0 +1,18 @@
+#pragma once
+
+#include <QString>
+#include <QStringList>
+
+#include <optional>
+
+// The command line of the haulix program:
+//   haulix [--db PATH | --db host[/port]:path] [--user ID] [--report]
+struct HostOptions
+{
+    QString database;   // empty: the demo database
+    int userId = 1;
+    bool partnersReport = false;
+
+    // std::nullopt and a Polish message in error when the line is wrong.
+    static std::optional<HostOptions> parse(const QStringList &arguments, QString &error);
+};

@@ -1,0 +1,107 @@
+// haulix: the suite's host as far as this module needs one. It opens the
+// database, loads Library/IncomingOrders and calls an entry point with the
+// user, the connection and the transaction, as the suite's host does.
+
+#include "Connection.h"
+#include "DbError.h"
+#include "DemoDatabase.h"
+#include "HostOptions.h"
+#include "ModuleEntryPoints.h"
+#include "Statement.h"
+#include "Transaction.h"
+
+#include <QApplication>
+#include <QDir>
+#include <QLibrary>
+#include <QMessageBox>
+#include <QTextStream>
+
+namespace {
+
+bool haveDisplay()
+{
+#if defined(Q_OS_LINUX)
+    return qEnvironmentVariableIsSet("QT_QPA_PLATFORM") || qEnvironmentVariableIsSet("DISPLAY")
+        || qEnvironmentVariableIsSet("WAYLAND_DISPLAY");
+#else
+    return true;
+#endif
+}
+
+// Said on the terminal and, once the application runs, in a box too.
+int fail(const QString &message)
+{
+    QTextStream(stderr) << message << '\n';
+    // Offscreen, nobody could close the box.
+    if (qobject_cast<QApplication *>(QCoreApplication::instance())
+        && QGuiApplication::platformName() != QLatin1String("offscreen"))
+        QMessageBox::critical(nullptr, QStringLiteral("Haulix"), message);
+    return 1;
+}
+
+bool userExists(Connection &connection, int userId)
+{
+    Statement st(connection);
+    st.add(QStringLiteral("SELECT COUNT(*) FROM USERS WHERE ID_USER=:aID_USER"));
+    st.bind(QStringLiteral("aID_USER"), userId);
+    st.exec();
+    return st.integer(0) > 0;
+}
+
+} // namespace
+
+int main(int argc, char **argv)
+{
+    if (!haveDisplay()) {
+        QTextStream(stderr) << "Brak ekranu (zmienna DISPLAY nie jest ustawiona).\n"
+                               "Aby uruchomić bez ekranu: QT_QPA_PLATFORM=offscreen haulix ...\n";
+        return 1;
+    }
+    QApplication app(argc, argv);
+    QApplication::setOrganizationName(QStringLiteral("Kelvaro"));
+    QApplication::setApplicationName(QStringLiteral("Haulix"));
+    QApplication::setApplicationVersion(QStringLiteral(HAULIX_VERSION));
+    QLocale::setDefault(QLocale(QLocale::Polish, QLocale::Poland));
+
+    QString error;
+    const std::optional<HostOptions> options = HostOptions::parse(QApplication::arguments().mid(1), error);
+    if (!options)
+        return fail(error);
+
+    Connection connection;
+    QString target = options->database;
+    try {
+        if (target.isEmpty()) {
+            target = DemoDatabase::ensure([](const QString &message) { QTextStream(stdout) << message << '\n'; });
+        }
+        connection.open(target);
+        if (!userExists(connection, options->userId))
+            return fail(QStringLiteral("Nieznany użytkownik %1 w bazie %2.").arg(options->userId).arg(target));
+    } catch (const DbError &e) {
+        return fail(e.message());
+    }
+
+    const QString libraryPath = QDir(QApplication::applicationDirPath())
+                                    .filePath(QStringLiteral("Library/") + QLatin1String(ModuleEntryPoints::LibraryName));
+    QLibrary module(libraryPath);
+    if (!module.load())
+        return fail(QStringLiteral("Nie można załadować modułu %1: %2").arg(libraryPath, module.errorString()));
+    const char *entryName = options->partnersReport ? ModuleEntryPoints::PartnersReport
+                                                    : ModuleEntryPoints::IncomingOrders;
+    const auto entry = reinterpret_cast<ModuleEntry>(module.resolve(entryName));
+    if (!entry) {
+        return fail(QStringLiteral("Moduł %1 nie udostępnia funkcji %2.")
+                        .arg(module.fileName(), QLatin1String(entryName)));
+    }
+
+    Transaction transaction(connection);
+    const std::int32_t result = entry(options->userId, &connection, &transaction);
+    try {
+        if (transaction.InTransaction())
+            transaction.Commit();
+    } catch (const DbError &e) {
+        return fail(e.message());
+    }
+    connection.close();
+    return result == 1 || result == 2 ? 0 : 1;
+}
