@@ -1,5 +1,6 @@
 #include "DateTime.h"
 #include "ScriptedMessages.h"
+#include "ScriptedSeams.h"
 
 #include <QApplication>
 #include <QLocale>
@@ -27,5 +28,6 @@ int main(int argc, char **argv)
     qRegisterMetaType<DateTime>();
     testing::InitGoogleTest(&argc, argv);
     testing::UnitTest::GetInstance()->listeners().Append(new ScriptedMessagesListener);
+    testing::UnitTest::GetInstance()->listeners().Append(new ScriptedSeamsListener);
     return RUN_ALL_TESTS();
 }

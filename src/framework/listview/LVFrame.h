@@ -2,6 +2,10 @@
 
 #include "FilePrompts.h"
 #include "RowOrder.h"
+#include "TBitBtn.h"
+#include "TListView.h"
+#include "TRadioGroup.h"
+#include "TSearchPanel.h"
 
 #include <QFrame>
 #include <QPointer>
@@ -17,11 +21,7 @@ class QLineEdit;
 class QMenu;
 class QPushButton;
 class QTimer;
-class TBitBtn;
 class TImageList;
-class TListView;
-class TRadioGroup;
-class TSearchPanel;
 
 // The list panel that registers and selection dialogs embed: a report-style
 // list with a search bar above it and a context menu. It searches and sorts
