@@ -3,8 +3,7 @@
 #include "DateTime.h"
 #include "DecimalDigits.h"
 
-#include <QLocale>
-
+#include <charconv>
 #include <cmath>
 
 namespace Format {
@@ -149,47 +148,75 @@ QString dateTime(DateTime value)
 
 std::optional<double> parseNumber(QStringView text)
 {
-    QString plain;
-    plain.reserve(text.size());
+    // Lists hold many numbers; this runs per cell when a column is summed
+    // or sorted, so it avoids building strings.
+    char plain[64];
+    int length = 0;
     int separators = 0;
     for (const QChar c : text) {
         if (c == u' ' || c == ThousandSeparator)
             continue;
-        if (c == u',' || c == u'.') {
+        if (c.unicode() > 0x7f || length == sizeof plain - 1)
+            return std::nullopt;
+        char ascii = static_cast<char>(c.unicode());
+        if (ascii == ',' || ascii == '.') {
             ++separators;
-            plain += u'.';
-            continue;
+            ascii = '.';
         }
-        plain += c;
+        plain[length++] = ascii;
     }
-    if (plain.isEmpty() || separators > 1)
+    const char *begin = plain;
+    if (length > 0 && plain[0] == '+')
+        ++begin;
+    const char *end = plain + length;
+    if (begin == end || separators > 1)
         return std::nullopt;
-    bool ok = false;
-    const double value = QLocale::c().toDouble(plain, &ok);
-    if (!ok || !std::isfinite(value))
+    double value = 0.0;
+    const auto [stop, error] = std::from_chars(begin, end, value);
+    if (error != std::errc() || stop != end || !std::isfinite(value))
         return std::nullopt;
     return value;
 }
+
+namespace {
+
+// Reads `count` digits at `at`; -1 when one of them is no digit.
+int digitsAt(QStringView text, qsizetype at, int count)
+{
+    if (at + count > text.size())
+        return -1;
+    int value = 0;
+    for (int i = 0; i < count; ++i) {
+        const char16_t c = text[at + i].unicode();
+        if (c < u'0' || c > u'9')
+            return -1;
+        value = value * 10 + (c - u'0');
+    }
+    return value;
+}
+
+} // namespace
 
 std::optional<QDateTime> parseDateTime(QStringView text)
 {
     // Date and time are read apart and joined in UTC, so that a wall time
     // inside a daylight-saving gap is still a valid value.
     const QStringView trimmed = text.trimmed();
-    const qsizetype blank = trimmed.indexOf(u' ');
-    const QDate day = QDate::fromString(trimmed.left(blank < 0 ? trimmed.size() : blank).toString(),
-                                        QStringLiteral("yyyy-MM-dd"));
+    if (trimmed.size() < 10 || trimmed[4] != u'-' || trimmed[7] != u'-')
+        return std::nullopt;
+    const QDate day(digitsAt(trimmed, 0, 4), digitsAt(trimmed, 5, 2), digitsAt(trimmed, 8, 2));
     if (!day.isValid())
         return std::nullopt;
-    QTime time(0, 0);
-    if (blank >= 0) {
-        const QString timeText = trimmed.mid(blank + 1).trimmed().toString();
-        time = QTime::fromString(timeText, timeText.size() > 5 ? QStringLiteral("hh:mm:ss")
-                                                               : QStringLiteral("hh:mm"));
-        if (!time.isValid())
-            return std::nullopt;
-    }
-    return QDateTime(day, time, Qt::UTC);
+    if (trimmed.size() == 10)
+        return QDateTime(day, QTime(0, 0), Qt::UTC);
+    const QStringView time = trimmed.mid(10).trimmed();
+    if (trimmed[10] != u' ' || (time.size() != 5 && time.size() != 8) || time[2] != u':'
+        || (time.size() == 8 && time[5] != u':'))
+        return std::nullopt;
+    const QTime clock(digitsAt(time, 0, 2), digitsAt(time, 3, 2), time.size() == 8 ? digitsAt(time, 6, 2) : 0);
+    if (!clock.isValid())
+        return std::nullopt;
+    return QDateTime(day, clock, Qt::UTC);
 }
 
 } // namespace Format
