@@ -1,27 +1,15 @@
 // haulix-bench: timings of the module's heavy paths, printed as one table.
 //   haulix-bench [ROWS]
 #include "BenchTimer.h"
-#include "DateTime.h"
 #include "ListViewBench.h"
-
-#include <QApplication>
-#include <QLocale>
-#include <QSettings>
-#include <QTemporaryDir>
+#include "OffscreenProgram.h"
 
 int main(int argc, char **argv)
 {
-    if (qEnvironmentVariableIsEmpty("QT_QPA_PLATFORM"))
-        qputenv("QT_QPA_PLATFORM", "offscreen");
-    QApplication app(argc, argv);
-    QLocale::setDefault(QLocale(QLocale::Polish, QLocale::Poland));
-    qRegisterMetaType<DateTime>();
-    const QStringList arguments = QApplication::arguments();
-    const int rows = arguments.size() > 1 ? arguments[1].toInt() : 100000;
+    const OffscreenProgram program(argc, argv);
+    const QStringList arguments = program.arguments();
+    const int rows = arguments.isEmpty() ? 100000 : arguments.constFirst().toInt();
 
-    // List settings written while the program runs stay out of the user's own.
-    QTemporaryDir settings;
-    QSettings::setPath(QSettings::NativeFormat, QSettings::UserScope, settings.path());
     BenchTimer timer;
     benchListView(timer, rows > 0 ? rows : 100000);
     timer.print();
