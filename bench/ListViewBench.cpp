@@ -45,11 +45,12 @@ private:
 // that repeat as clients and cities do, amounts with Polish separators.
 std::vector<QStringList> makeRows(int count)
 {
-    static const char *const clients[] = {"Agromax Sp. z o.o.", "Trans-Bud S.A.", "Zakład Mięsny Łuków",
-                                          "Hurtownia Żak", "Mleczarnia Wąchock", "Stal-Pol Kraków",
-                                          "Ogrodnictwo Ćmielów", "Drob-Ex Ełk"};
-    static const char *const cities[] = {"Kraków", "Gdańsk", "Łódź", "Poznań", "Wrocław", "Szczecin",
-                                         "Białystok", "Rzeszów", "Zamość", "Świnoujście"};
+    static const char *const clients[]
+        = {"Agromax Sp. z o.o.", "Trans-Bud S.A.",  "Zakład Mięsny Łuków", "Hurtownia Żak",
+           "Mleczarnia Wąchock", "Stal-Pol Kraków", "Ogrodnictwo Ćmielów", "Drob-Ex Ełk"};
+    static const char *const cities[]
+        = {"Kraków",   "Gdańsk",    "Łódź",    "Poznań", "Wrocław",
+           "Szczecin", "Białystok", "Rzeszów", "Zamość", "Świnoujście"};
     std::vector<QStringList> rows;
     rows.reserve(count);
     const QDate first(2024, 1, 1);
@@ -60,10 +61,10 @@ std::vector<QStringList> makeRows(int count)
         row << QStringLiteral("%1").arg(i + 1, 8, 10, QLatin1Char('0'))
             << Format::date(first.addDays(static_cast<int>(mix % 400)))
             << QString::fromUtf8(clients[mix % 8]) + QStringLiteral(" %1").arg(mix % 500)
-            << QString::fromUtf8(cities[(mix >> 3) % 10]) << QString::fromUtf8(cities[(mix >> 7) % 10])
+            << QString::fromUtf8(cities[(mix >> 3) % 10])
+            << QString::fromUtf8(cities[(mix >> 7) % 10])
             << Format::number((mix % 900000) / 100.0, u"#,##0.00")
-            << Format::number(mix % 1500, u"#,##0")
-            << QStringLiteral("Kierowca %1").arg(mix % 300)
+            << Format::number(mix % 1500, u"#,##0") << QStringLiteral("Kierowca %1").arg(mix % 300)
             << QStringLiteral("KR %1").arg(10000 + mix % 90000);
         while (row.size() < Columns)
             row << QStringLiteral("Uwagi %1/%2").arg(i).arg(row.size());
@@ -119,14 +120,16 @@ void benchListView(BenchTimer &timer, int rowCount)
 
     timer.measure(QStringLiteral("fill %1 rows x %2 columns").arg(rowCount).arg(Columns),
                   [&] { form->fill(rows); });
-    timer.measure(QStringLiteral("sort numeric column (amount)"), [&] { frame.sortByColumnClick(5); },
-                  3, [&] { form->fill(rows); });
+    timer.measure(
+        QStringLiteral("sort numeric column (amount)"), [&] { frame.sortByColumnClick(5); }, 3,
+        [&] { form->fill(rows); });
     timer.measure(QStringLiteral("sort date column"), [&] { frame.sortByColumnClick(1); }, 3,
                   [&] { form->fill(rows); });
     timer.measure(QStringLiteral("sort text column (client, 4000 distinct)"),
                   [&] { frame.sortByColumnClick(2); }, 3, [&] { form->fill(rows); });
-    timer.measure(QStringLiteral("sort text column (all distinct)"), [&] { frame.sortByColumnClick(20); },
-                  3, [&] { form->fill(rows); });
+    timer.measure(
+        QStringLiteral("sort text column (all distinct)"), [&] { frame.sortByColumnClick(20); }, 3,
+        [&] { form->fill(rows); });
 
     form->fill(rows);
     const QString wanted = rows[rows.size() - 10].at(12);

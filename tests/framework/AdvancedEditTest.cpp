@@ -46,8 +46,10 @@ protected:
 
     int issuingUser()
     {
-        return db.scalar(QStringLiteral("SELECT IDUSER FROM ZLECENIA_PRZYCH WHERE ID_ZLECENIA_PRZYCH = %1")
-                             .arg(orderKey))
+        return db
+            .scalar(
+                QStringLiteral("SELECT IDUSER FROM ZLECENIA_PRZYCH WHERE ID_ZLECENIA_PRZYCH = %1")
+                    .arg(orderKey))
             .toInt();
     }
 

@@ -34,8 +34,9 @@ TEST(ColumnValues, SummaryOfAColumn)
     TListViewModel model;
     model.addColumn(QStringLiteral("Nr"));
     model.addColumn(QStringLiteral("Kwota"));
-    for (const QString &amount : {polish("1~234,50"), QStringLiteral("1.234,50"), QStringLiteral("10"),
-                                  QStringLiteral("-"), QStringLiteral("brak")})
+    for (const QString &amount :
+         {polish("1~234,50"), QStringLiteral("1.234,50"), QStringLiteral("10"), QStringLiteral("-"),
+          QStringLiteral("brak")})
         model.addRow({QStringLiteral("x"), amount});
 
     const ColumnValues::Summary summary = ColumnValues::summarize(model, 1);

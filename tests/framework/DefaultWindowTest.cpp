@@ -45,7 +45,8 @@ public:
         cbMiasto->setObjectName(QStringLiteral("cbMiasto"));
         cbMiasto->setEditable(true);
         cbMiasto->lineEdit()->setMaxLength(40);
-        cbMiasto->addItems({QStringLiteral("Gdańsk"), QStringLiteral("Kraków"), QStringLiteral("Krosno")});
+        cbMiasto->addItems(
+            {QStringLiteral("Gdańsk"), QStringLiteral("Kraków"), QStringLiteral("Krosno")});
         cbMiasto->setCurrentIndex(-1);
         lvLista = new TListView(pnlClient);
         lvLista->setObjectName(QStringLiteral("lvLista"));
@@ -53,9 +54,9 @@ public:
         btnDodaj = new QPushButton(QStringLiteral("&Dodaj"), pnlClient);
         btnDrukuj = new QPushButton(QStringLiteral("&Drukuj"), pnlClient);
         auto *layout = new QVBoxLayout(pnlClient);
-        for (QWidget *widget : {static_cast<QWidget *>(edFirst), static_cast<QWidget *>(edSecond),
-                                static_cast<QWidget *>(cbMiasto), static_cast<QWidget *>(lvLista),
-                                static_cast<QWidget *>(btnDodaj), static_cast<QWidget *>(btnDrukuj)})
+        const std::initializer_list<QWidget *> controls{edFirst, edSecond, cbMiasto,
+                                                        lvLista, btnDodaj, btnDrukuj};
+        for (QWidget *widget : controls)
             layout->addWidget(widget);
         setROIgnoreShortcutChecking(flags.ignoreShortcuts);
         setROCloseOnESC(flags.closeOnEsc);

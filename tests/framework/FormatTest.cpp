@@ -74,7 +74,8 @@ TEST(FormatDate, DatesAreWrittenYearFirst)
     EXPECT_EQ(Format::date(QDate()), "");
     EXPECT_EQ(Format::date(DateTime()), "");
     EXPECT_EQ(Format::date(DateTime::fromDate(QDate(2023, 12, 31))), "2023-12-31");
-    EXPECT_EQ(Format::dateTime(DateTime::fromDateTime(QDateTime(QDate(2024, 1, 2), QTime(8, 5), Qt::UTC))),
+    EXPECT_EQ(Format::dateTime(
+                  DateTime::fromDateTime(QDateTime(QDate(2024, 1, 2), QTime(8, 5), Qt::UTC))),
               "2024-01-02 08:05");
 }
 

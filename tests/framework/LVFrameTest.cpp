@@ -254,9 +254,11 @@ TEST_F(LVFrame, HideAndShowColumns)
 
 TEST_F(LVFrame, SearchOptionsMenuSetsTheRadioGroup)
 {
-    menuItem(frame->pmMain, "Opcje szukania", "Wartość w kolumnie zaczyna się od szukanej")->trigger();
+    menuItem(frame->pmMain, "Opcje szukania", "Wartość w kolumnie zaczyna się od szukanej")
+        ->trigger();
     EXPECT_EQ(frame->rgSearchOptions->itemIndex(), TframeListView::StartsWith);
-    QAction *contains = menuItem(frame->pmMain, "Opcje szukania", "Wartość w kolumnie zawiera szukaną");
+    QAction *contains
+        = menuItem(frame->pmMain, "Opcje szukania", "Wartość w kolumnie zawiera szukaną");
     frame->rgSearchOptions->button(TframeListView::Equals)->click();
     EXPECT_TRUE(contains->isChecked());
     EXPECT_EQ(frame->rgSearchOptions->itemIndex(), TframeListView::Equals);
@@ -328,7 +330,8 @@ TEST_F(LVFrame, SumNeedsRowsAndAColumn)
     scriptedMessages().expect(MessageService::Ok);
     frame->sumColumn();
     EXPECT_EQ(scriptedMessages().shown().at(0).caption, "Nie wybrano kolumny");
-    EXPECT_EQ(scriptedMessages().shown().at(0).text, "Wybierz kolumnę, w której wartość ma być sumowana.");
+    EXPECT_EQ(scriptedMessages().shown().at(0).text,
+              "Wybierz kolumnę, w której wartość ma być sumowana.");
     EXPECT_EQ(scriptedMessages().shown().at(0).icon, MessageService::Icon::Warning);
 
     form->rows.clear();
@@ -362,7 +365,8 @@ TEST_F(LVFrame, ExportMessages)
     scriptedFilePrompts().answer(QStringLiteral("/nonexistent/dir/zlecenia.csv"));
     scriptedMessages().expect(MessageService::Ok);
     frame->exportToFile();
-    EXPECT_EQ(scriptedMessages().shown().at(0).text, "Błąd otwarcia pliku (/nonexistent/dir/zlecenia.csv)");
+    EXPECT_EQ(scriptedMessages().shown().at(0).text,
+              "Błąd otwarcia pliku (/nonexistent/dir/zlecenia.csv)");
 
     // A cancelled dialog writes nothing and says nothing.
     scriptedFilePrompts().answer(QString());

@@ -38,8 +38,9 @@ TEST(RowOrder, NumbersSortByValueWithEmptyValuesFirst)
 
 TEST(RowOrder, DatesSortChronologically)
 {
-    EXPECT_EQ(sortedValues({"2024-03-01", "", "2023-12-31 18:00", "2023-12-31 08:00"}, SortKind::Date),
-              QStringList({"", "2023-12-31 08:00", "2023-12-31 18:00", "2024-03-01"}));
+    EXPECT_EQ(
+        sortedValues({"2024-03-01", "", "2023-12-31 18:00", "2023-12-31 08:00"}, SortKind::Date),
+        QStringList({"", "2023-12-31 08:00", "2023-12-31 18:00", "2024-03-01"}));
 }
 
 TEST(RowOrder, TextSortsInPolishOrderIgnoringCase)
@@ -75,7 +76,8 @@ TEST(RowOrder, AValueOfTheWrongKindStopsTheSort)
     } catch (const SortConversionError &error) {
         EXPECT_EQ(error.message(), "'abc' nie jest poprawną wartością liczbową.");
     }
-    EXPECT_THROW(sortedRows(*modelOf({"2024-01-01", "jutro"}), 0, SortKind::Date), SortConversionError);
+    EXPECT_THROW(sortedRows(*modelOf({"2024-01-01", "jutro"}), 0, SortKind::Date),
+                 SortConversionError);
 }
 
 TEST(RowOrder, SelectionFollowsItsRowThroughASort)

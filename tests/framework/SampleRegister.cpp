@@ -5,8 +5,8 @@
 
 #include <QBoxLayout>
 
-TfrmSampleRegister::TfrmSampleRegister(const QStringList &captions, std::vector<QStringList> rowTexts,
-                                       int userId)
+TfrmSampleRegister::TfrmSampleRegister(const QStringList &captions,
+                                       std::vector<QStringList> rowTexts, int userId)
     : rows(std::move(rowTexts))
 {
     setObjectName(QStringLiteral("frmSampleRegister"));

@@ -13,7 +13,10 @@ namespace {
 // expect fails it instead of blocking the run.
 class ScriptedMessagesListener : public testing::EmptyTestEventListener
 {
-    void OnTestStart(const testing::TestInfo &) override { m_messages = std::make_unique<ScopedScriptedMessages>(); }
+    void OnTestStart(const testing::TestInfo &) override
+    {
+        m_messages = std::make_unique<ScopedScriptedMessages>();
+    }
     void OnTestEnd(const testing::TestInfo &) override { m_messages.reset(); }
     std::unique_ptr<ScopedScriptedMessages> m_messages;
 };

@@ -5,7 +5,8 @@
 #include <QLocale>
 #include <QSettings>
 
-OffscreenProgram::OffscreenProgram(int &argc, char **argv) : m_application(preparePlatform(argc), argv)
+OffscreenProgram::OffscreenProgram(int &argc, char **argv)
+    : m_application(preparePlatform(argc), argv)
 {
     QLocale::setDefault(QLocale(QLocale::Polish, QLocale::Poland));
     qRegisterMetaType<DateTime>();

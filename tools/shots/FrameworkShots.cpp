@@ -23,7 +23,8 @@ public:
     {
         setWindowTitle(QStringLiteral("Zlecenia przychodzące"));
         lblHeader->setText(QStringLiteral("Zlecenia przychodzące"));
-        lblHeaderDescription->setText(QStringLiteral("Lista zleceń z okresu miesiąca przed i po dniu dzisiejszym."));
+        lblHeaderDescription->setText(
+            QStringLiteral("Lista zleceń z okresu miesiąca przed i po dniu dzisiejszym."));
         frame = new TframeListView(this, pnlClient, QStringLiteral("frameListView1"));
         auto *layout = new QVBoxLayout(pnlClient);
         layout->setContentsMargins(0, 0, 0, 0);
@@ -47,11 +48,13 @@ public:
 protected:
     void LoadLVData() override
     {
-        static const char *const clients[] = {"Agromax Sp. z o.o.", "Trans-Bud S.A.", "Zakład Mięsny Łuków",
-                                              "Hurtownia Żak", "Mleczarnia Wąchock", "Stal-Pol Kraków"};
+        static const char *const clients[]
+            = {"Agromax Sp. z o.o.", "Trans-Bud S.A.",     "Zakład Mięsny Łuków",
+               "Hurtownia Żak",      "Mleczarnia Wąchock", "Stal-Pol Kraków"};
         static const char *const cities[] = {"Kraków", "Gdańsk", "Łódź", "Poznań", "Wrocław",
                                              "Szczecin", "Białystok", "Rzeszów"};
-        static const char *const carriers[] = {"własny", "Spedpol", "Euro-Trans Kielce", "TIR-Serwis"};
+        static const char *const carriers[]
+            = {"własny", "Spedpol", "Euro-Trans Kielce", "TIR-Serwis"};
         TListView *list = frame->lvMain;
         list->beginUpdate();
         list->clear();
@@ -61,7 +64,8 @@ protected:
             const int km = 120 + (i * 131 % 600);
             list->addItem(QStringLiteral("%1").arg(1180 + i, 8, 10, QLatin1Char('0')),
                           {Format::date(first.addDays(i / 2)), QString::fromUtf8(clients[i % 6]),
-                           QString::fromUtf8(cities[i % 8]), QString::fromUtf8(cities[(i * 3 + 2) % 8]),
+                           QString::fromUtf8(cities[i % 8]),
+                           QString::fromUtf8(cities[(i * 3 + 2) % 8]),
                            QString::fromUtf8(carriers[i % 4]), Format::number(amount, u"#,##0.00"),
                            Format::number(km, u"#,##0")},
                           1180 + i);
@@ -73,7 +77,8 @@ protected:
 std::unique_ptr<QWidget> baseForm()
 {
     auto form = TfrmRODefault::create<TfrmRODefault>();
-    form->lblHeaderDescription->setText(QStringLiteral("Opis okna: wspólny nagłówek i stopka formularzy."));
+    form->lblHeaderDescription->setText(
+        QStringLiteral("Opis okna: wspólny nagłówek i stopka formularzy."));
     form->resize(520, 320);
     return form;
 }
@@ -104,9 +109,11 @@ void addFrameworkShots(ShotBook &book)
 {
     book.add(QStringLiteral("frmRODefault"), [](ShotContext &) { return baseForm(); });
     book.add(QStringLiteral("frameListView"), [](ShotContext &) { return frameWithRows(false); });
-    book.add(QStringLiteral("frameListView-opcje"), [](ShotContext &) { return frameWithRows(true); });
-    book.add(QStringLiteral("frmAdvancedEdit"), [](ShotContext &context) -> std::unique_ptr<QWidget> {
-        return TfrmRODefault::create<TfrmAdvancedEdit>(nullptr, context.database().orderKey());
-    });
+    book.add(QStringLiteral("frameListView-opcje"),
+             [](ShotContext &) { return frameWithRows(true); });
+    book.add(
+        QStringLiteral("frmAdvancedEdit"), [](ShotContext &context) -> std::unique_ptr<QWidget> {
+            return TfrmRODefault::create<TfrmAdvancedEdit>(nullptr, context.database().orderKey());
+        });
     book.add(QStringLiteral("frmWaitPlease"), [](ShotContext &) { return waitWindow(); });
 }

@@ -213,7 +213,8 @@ std::optional<QDateTime> parseDateTime(QStringView text)
     if (trimmed[10] != u' ' || (time.size() != 5 && time.size() != 8) || time[2] != u':'
         || (time.size() == 8 && time[5] != u':'))
         return std::nullopt;
-    const QTime clock(digitsAt(time, 0, 2), digitsAt(time, 3, 2), time.size() == 8 ? digitsAt(time, 6, 2) : 0);
+    const QTime clock(digitsAt(time, 0, 2), digitsAt(time, 3, 2),
+                      time.size() == 8 ? digitsAt(time, 6, 2) : 0);
     if (!clock.isValid())
         return std::nullopt;
     return QDateTime(day, clock, Qt::UTC);

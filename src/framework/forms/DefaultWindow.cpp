@@ -63,8 +63,8 @@ void TfrmRODefault::buildHeader()
     lblHeader = new QLabel(QStringLiteral("Nagłówek"), pnlBackground);
     lblHeader->setObjectName(QStringLiteral("lblHeader"));
     lblHeader->setAlignment(Qt::AlignCenter);
-    lblHeader->setStyleSheet(
-        QStringLiteral("color: white; background-color: #1f3a68; font-weight: bold; font-size: 12pt;"));
+    lblHeader->setStyleSheet(QStringLiteral(
+        "color: white; background-color: #1f3a68; font-weight: bold; font-size: 12pt;"));
     BitBtnTerminarz = new QPushButton(QStringLiteral("Terminarz"), pnlBackground);
     BitBtnTerminarz->setObjectName(QStringLiteral("BitBtnTerminarz"));
     BitBtnTerminarz->hide();
@@ -148,7 +148,8 @@ void TfrmRODefault::connectModalResults()
     // before the button closes the form.
     for (TBitBtn *button : findChildren<TBitBtn *>()) {
         if (button->modalResult() != 0)
-            connect(button, &TBitBtn::clicked, this, [this, button] { done(button->modalResult()); });
+            connect(button, &TBitBtn::clicked, this,
+                    [this, button] { done(button->modalResult()); });
     }
 }
 

@@ -32,7 +32,8 @@ const QString FlatComboFrame =
 bool isPartOfCompoundControl(const QWidget *widget)
 {
     const QWidget *parent = widget->parentWidget();
-    return qobject_cast<const QComboBox *>(parent) || qobject_cast<const QAbstractSpinBox *>(parent);
+    return qobject_cast<const QComboBox *>(parent)
+        || qobject_cast<const QAbstractSpinBox *>(parent);
 }
 
 QChar acceleratorLetter(const QString &caption)
@@ -79,7 +80,8 @@ void TfrmRODefault::checkAccelerators()
     QSet<QChar> used;
     for (QWidget *widget : ownWidgets()) {
         auto *button = qobject_cast<QAbstractButton *>(widget);
-        const bool pushOrSpeed = qobject_cast<QPushButton *>(widget) || qobject_cast<QToolButton *>(widget);
+        const bool pushOrSpeed
+            = qobject_cast<QPushButton *>(widget) || qobject_cast<QToolButton *>(widget);
         if (!button || !pushOrSpeed || qobject_cast<TBitBtn *>(widget) || button->isHidden())
             continue;
         const QChar letter = acceleratorLetter(button->text());
@@ -189,7 +191,8 @@ void TfrmRODefault::typeAhead(QComboBox *combo, const QString &typed)
     combo->setCurrentIndex(found);
     edit->setText(entry);
     // Further typing replaces the completed part.
-    edit->setSelection(static_cast<int>(typed.size()), static_cast<int>(entry.size() - typed.size()));
+    edit->setSelection(static_cast<int>(typed.size()),
+                       static_cast<int>(entry.size() - typed.size()));
 }
 
 bool TfrmRODefault::eventFilter(QObject *watched, QEvent *event)

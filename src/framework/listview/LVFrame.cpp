@@ -94,10 +94,9 @@ void TframeListView::buildLayout()
     topLayout->setContentsMargins(6, 4, 6, 4);
     topLayout->addWidget(Label1);
     topLayout->addWidget(edSearch, 1);
-    for (QPushButton *button : {static_cast<QPushButton *>(btnOpcje), btnUnBold,
-                                static_cast<QPushButton *>(BitBtn1), static_cast<QPushButton *>(BitBtn2),
-                                static_cast<QPushButton *>(BitBtn5), static_cast<QPushButton *>(BitBtn4),
-                                static_cast<QPushButton *>(BitBtn6), static_cast<QPushButton *>(BitBtn7)})
+    const std::initializer_list<QPushButton *> topButtons{
+        btnOpcje, btnUnBold, BitBtn1, BitBtn2, BitBtn5, BitBtn4, BitBtn6, BitBtn7};
+    for (QPushButton *button : topButtons)
         topLayout->addWidget(button);
 
     QWidget *expanded = pnlSearch->expandedPart();
@@ -122,7 +121,8 @@ void TframeListView::buildLayout()
     cbSearchOnKey = new QCheckBox(acSearchOnKey->text(), expanded);
     cbSearchOnKey->setObjectName(QStringLiteral("cbSearchOnKey"));
     cbSearchOnKey->setChecked(true);
-    BitBtn3 = frameButton(QStringLiteral("Informacje systemowe"), QStringLiteral("BitBtn3"), expanded);
+    BitBtn3
+        = frameButton(QStringLiteral("Informacje systemowe"), QStringLiteral("BitBtn3"), expanded);
     auto *checks = new QVBoxLayout;
     checks->setSpacing(0);
     checks->addWidget(cbCaseSensitive);
@@ -155,8 +155,9 @@ void TframeListView::buildLayout()
     layout->addWidget(pnlSearch);
     layout->addWidget(lvMain, 1);
 
-    SaveDialog1 = FilePrompt{QString(), QString(), QStringLiteral("Pliki CSV|*.csv|Wszystkie pliki|*.*"),
-                             QStringLiteral("*.csv")};
+    SaveDialog1
+        = FilePrompt{QString(), QString(), QStringLiteral("Pliki CSV|*.csv|Wszystkie pliki|*.*"),
+                     QStringLiteral("*.csv")};
 }
 
 void TframeListView::connectSignals()
@@ -174,8 +175,10 @@ void TframeListView::connectSignals()
     connect(cbSearchOnKey, &QCheckBox::toggled, acSearchOnKey, &QAction::setChecked);
     connect(acSearchOnKey, &QAction::toggled, cbSearchOnKey, &QCheckBox::setChecked);
 
-    connect(lvMain->header(), &QHeaderView::sectionClicked, this, &TframeListView::sortByColumnClick);
-    connect(lvMain, &TListView::clicked, this, [this] { notifyOwner(FrameEvents::SelectionChanged); });
+    connect(lvMain->header(), &QHeaderView::sectionClicked, this,
+            &TframeListView::sortByColumnClick);
+    connect(lvMain, &TListView::clicked, this,
+            [this] { notifyOwner(FrameEvents::SelectionChanged); });
     connect(lvMain->selectionModel(), &QItemSelectionModel::selectionChanged, this,
             [this] { notifyOwner(FrameEvents::SelectionChanged); });
     connect(lvMain->selectionModel(), &QItemSelectionModel::currentRowChanged, this,

@@ -40,20 +40,25 @@ void TframeListView::buildPopupMenu()
 
     QMenu *options = pmMain->addMenu(QStringLiteral("Opcje szukania"));
     auto *optionGroup = new QActionGroup(this);
-    m_optionContains = radioItem(options, optionGroup, QStringLiteral("Wartość w kolumnie zawiera szukaną"));
-    m_optionEquals = radioItem(options, optionGroup, QStringLiteral("Wartość w kolumnie jest równa szukanej"));
+    m_optionContains
+        = radioItem(options, optionGroup, QStringLiteral("Wartość w kolumnie zawiera szukaną"));
+    m_optionEquals
+        = radioItem(options, optionGroup, QStringLiteral("Wartość w kolumnie jest równa szukanej"));
     m_optionStartsWith = radioItem(options, optionGroup,
                                    QStringLiteral("Wartość w kolumnie zaczyna się od szukanej"));
     m_optionEquals->setChecked(true);
     options->addSeparator();
     options->addAction(acCaseSensitive);
     options->addAction(acSearchOnKey);
-    connect(m_optionContains, &QAction::triggered, this, [this] { rgSearchOptions->setItemIndex(Contains); });
-    connect(m_optionEquals, &QAction::triggered, this, [this] { rgSearchOptions->setItemIndex(Equals); });
+    connect(m_optionContains, &QAction::triggered, this,
+            [this] { rgSearchOptions->setItemIndex(Contains); });
+    connect(m_optionEquals, &QAction::triggered, this,
+            [this] { rgSearchOptions->setItemIndex(Equals); });
     connect(m_optionStartsWith, &QAction::triggered, this,
             [this] { rgSearchOptions->setItemIndex(StartsWith); });
     // Whichever button the user clicks, the menu marks the first option.
-    connect(rgSearchOptions, &TRadioGroup::clicked, this, [this] { m_optionContains->setChecked(true); });
+    connect(rgSearchOptions, &TRadioGroup::clicked, this,
+            [this] { m_optionContains->setChecked(true); });
 
     pmMain->addSeparator();
     QAction *refresh = pmMain->addAction(QStringLiteral("&Odśwież"));
@@ -78,7 +83,8 @@ void TframeListView::buildMenus()
         Refresh();
         lvMain->clearColumnImages();
     });
-    connect(m_hideMenu->addAction(none), &QAction::triggered, this, &TframeListView::showAllColumns);
+    connect(m_hideMenu->addAction(none), &QAction::triggered, this,
+            &TframeListView::showAllColumns);
 
     for (int column = 0; column < lvMain->columnCount(); ++column) {
         const QString caption = lvMain->columnCaption(column);
@@ -102,7 +108,8 @@ void TframeListView::buildMenus()
 
         QAction *hide = m_hideMenu->addAction(caption);
         hide->setCheckable(true);
-        connect(hide, &QAction::triggered, this, [this, column](bool checked) { hideColumn(column, checked); });
+        connect(hide, &QAction::triggered, this,
+                [this, column](bool checked) { hideColumn(column, checked); });
         m_hideActions.push_back(hide);
 
         lvMain->setColumnTag(column, lvMain->columnWidth(column));

@@ -15,7 +15,8 @@ void TframeListView::Refresh()
     std::vector<TListViewSelection> remembered;
     const QList<TListView *> lists = findChildren<TListView *>();
     for (const TListView *list : lists)
-        remembered.push_back({list->objectName().left(255), std::max(list->selectedIndex(), 0), list->tag()});
+        remembered.push_back(
+            {list->objectName().left(255), std::max(list->selectedIndex(), 0), list->tag()});
 
     notifyOwner(FrameEvents::ReloadLists);
 
