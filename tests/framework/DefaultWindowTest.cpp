@@ -172,6 +172,12 @@ TEST(DefaultWindow, EnterMovesToTheNextField)
     QTest::keyClick(form->edFirst, Qt::Key_Return);
     EXPECT_EQ(QApplication::focusWidget(), form->edSecond);
     EXPECT_TRUE(form->isVisible());
+
+    // Enter elsewhere presses no default button.
+    form->lvLista->setFocus();
+    QTest::keyClick(form->lvLista, Qt::Key_Return);
+    EXPECT_TRUE(form->isVisible());
+    EXPECT_EQ(form->result(), 0);
 }
 
 TEST(DefaultWindow, EscClosesWithCancelOnlyWhenAllowed)

@@ -195,12 +195,20 @@ void TfrmRODefault::FormShow()
 
 void TfrmRODefault::keyPressEvent(QKeyEvent *event)
 {
-    if (event->key() != Qt::Key_Escape) {
-        QDialog::keyPressEvent(event);
+    switch (event->key()) {
+    case Qt::Key_Escape:
+        // Without ROCloseOnESC, Esc does nothing at all.
+        event->accept();
+        if (m_closeOnEsc)
+            done(result() != 0 ? result() : mrCancel);
         return;
+    case Qt::Key_Return:
+    case Qt::Key_Enter:
+        // A focused button takes Enter itself; from anywhere else Enter
+        // must not reach a default button that would close the form.
+        event->accept();
+        return;
+    default:
+        QDialog::keyPressEvent(event);
     }
-    // Without ROCloseOnESC, Esc does nothing at all.
-    event->accept();
-    if (m_closeOnEsc)
-        done(result() != 0 ? result() : mrCancel);
 }
