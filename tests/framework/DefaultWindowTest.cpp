@@ -174,6 +174,7 @@ TEST(DefaultWindow, EnterMovesToTheNextField)
     EXPECT_TRUE(form->isVisible());
 
     // Enter elsewhere presses no default button.
+    form->btnOk->setDefault(true);
     form->lvLista->setFocus();
     QTest::keyClick(form->lvLista, Qt::Key_Return);
     EXPECT_TRUE(form->isVisible());
