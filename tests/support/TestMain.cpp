@@ -1,5 +1,6 @@
 #include "DateTime.h"
 #include "ScriptedMessages.h"
+#include "ScriptedSeams.h"
 
 #include <QApplication>
 #include <QLocale>
@@ -12,7 +13,10 @@ namespace {
 // expect fails it instead of blocking the run.
 class ScriptedMessagesListener : public testing::EmptyTestEventListener
 {
-    void OnTestStart(const testing::TestInfo &) override { m_messages = std::make_unique<ScopedScriptedMessages>(); }
+    void OnTestStart(const testing::TestInfo &) override
+    {
+        m_messages = std::make_unique<ScopedScriptedMessages>();
+    }
     void OnTestEnd(const testing::TestInfo &) override { m_messages.reset(); }
     std::unique_ptr<ScopedScriptedMessages> m_messages;
 };
@@ -27,5 +31,6 @@ int main(int argc, char **argv)
     qRegisterMetaType<DateTime>();
     testing::InitGoogleTest(&argc, argv);
     testing::UnitTest::GetInstance()->listeners().Append(new ScriptedMessagesListener);
+    testing::UnitTest::GetInstance()->listeners().Append(new ScriptedSeamsListener);
     return RUN_ALL_TESTS();
 }

@@ -1,0 +1,17 @@
+// haulix-bench: timings of the module's heavy paths, printed as one table.
+//   haulix-bench [ROWS]
+#include "BenchTimer.h"
+#include "ListViewBench.h"
+#include "OffscreenProgram.h"
+
+int main(int argc, char **argv)
+{
+    const OffscreenProgram program(argc, argv);
+    const QStringList arguments = program.arguments();
+    const int rows = arguments.isEmpty() ? 100000 : arguments.constFirst().toInt();
+
+    BenchTimer timer;
+    benchListView(timer, rows > 0 ? rows : 100000);
+    timer.print();
+    return 0;
+}

@@ -1,0 +1,169 @@
+#include "TListView.h"
+
+#include "TImageList.h"
+
+#include <QHeaderView>
+#include <QMouseEvent>
+
+TListView::TListView(QWidget *parent) : QTreeView(parent), m_model(new TListViewModel(this))
+{
+    setModel(m_model);
+    setRootIsDecorated(false);
+    setItemsExpandable(false);
+    setUniformRowHeights(true);
+    setAllColumnsShowFocus(true);
+    setSelectionBehavior(QAbstractItemView::SelectRows);
+    setSelectionMode(QAbstractItemView::SingleSelection);
+    setEditTriggers(QAbstractItemView::NoEditTriggers);
+    header()->setStretchLastSection(false);
+    header()->setSectionsMovable(false);
+    header()->setSectionsClickable(true);
+    m_model->setBaseFont(font());
+
+    // The selection stays visible when the list loses the focus.
+    QPalette colours = palette();
+    for (const QPalette::ColorRole role : {QPalette::Highlight, QPalette::HighlightedText})
+        colours.setColor(QPalette::Inactive, role, colours.color(QPalette::Active, role));
+    setPalette(colours);
+}
+
+int TListView::addColumn(const QString &caption, int width)
+{
+    const int column = m_model->addColumn(caption);
+    setColumnWidth(column, width);
+    return column;
+}
+
+int TListView::columnWidth(int column) const
+{
+    return header()->isSectionHidden(column) ? 0 : header()->sectionSize(column);
+}
+
+void TListView::setColumnWidth(int column, int width)
+{
+    // The header will not make a section narrower than its minimum, so a
+    // width of 0 hides the column instead.
+    if (width <= 0) {
+        header()->hideSection(column);
+        return;
+    }
+    header()->showSection(column);
+    header()->resizeSection(column, width);
+}
+
+void TListView::clearColumnImages()
+{
+    for (int column = 0; column < columnCount(); ++column)
+        m_model->setColumnImage(column, -1);
+}
+
+int TListView::visibleColumnCount() const
+{
+    int visible = 0;
+    for (int column = 0; column < columnCount(); ++column) {
+        if (columnWidth(column) != 0)
+            ++visible;
+    }
+    return visible;
+}
+
+int TListView::addItem(const QString &caption, const QStringList &subItems, int key, int image)
+{
+    QStringList texts;
+    texts.reserve(subItems.size() + 1);
+    texts << caption << subItems;
+    return m_model->addRow(texts, key, image);
+}
+
+int TListView::selectedIndex() const
+{
+    const QModelIndexList rows = selectionModel()->selectedRows();
+    return rows.isEmpty() ? -1 : rows.constFirst().row();
+}
+
+void TListView::setSelectedIndex(int row)
+{
+    if (row < 0 || row >= itemCount()) {
+        selectionModel()->clearSelection();
+        return;
+    }
+    selectionModel()->setCurrentIndex(m_model->index(row, 0),
+                                      QItemSelectionModel::ClearAndSelect
+                                          | QItemSelectionModel::Rows);
+}
+
+bool TListView::selectByKey(int key)
+{
+    const int row = findByKey(key);
+    if (row < 0)
+        return false;
+    setSelectedIndex(row);
+    scrollToRow(row);
+    return true;
+}
+
+void TListView::scrollToRow(int row)
+{
+    if (row >= 0 && row < itemCount())
+        scrollTo(m_model->index(row, 0), QAbstractItemView::EnsureVisible);
+}
+
+void TListView::clear()
+{
+    if (m_model->updating())
+        m_clearedInUpdate = true;
+    m_model->clearRows();
+}
+
+void TListView::beginUpdate()
+{
+    if (!m_model->updating()) {
+        m_selectedBeforeUpdate = selectedIndex();
+        m_clearedInUpdate = false;
+    }
+    m_model->beginUpdate();
+}
+
+void TListView::endUpdate()
+{
+    m_model->endUpdate();
+    if (m_model->updating())
+        return;
+    if (!m_clearedInUpdate && m_selectedBeforeUpdate >= 0 && m_selectedBeforeUpdate < itemCount())
+        setSelectedIndex(m_selectedBeforeUpdate);
+}
+
+void TListView::setSmallImages(TImageList *images)
+{
+    m_images = images;
+    m_model->setImages(images);
+    if (images)
+        setIconSize(images->size());
+}
+
+void TListView::sortRows(int column, SortKind kind)
+{
+    if (column < 0 || column >= columnCount())
+        return;
+    m_model->reorder(sortedRows(*m_model, column, kind));
+}
+
+void TListView::repaintRows()
+{
+    m_model->repaintAll();
+    viewport()->update();
+}
+
+void TListView::mouseDoubleClickEvent(QMouseEvent *event)
+{
+    QTreeView::mouseDoubleClickEvent(event);
+    if (event->button() == Qt::LeftButton && indexAt(event->position().toPoint()).isValid())
+        Q_EMIT dblClick();
+}
+
+void TListView::changeEvent(QEvent *event)
+{
+    if (event->type() == QEvent::FontChange)
+        m_model->setBaseFont(font());
+    QTreeView::changeEvent(event);
+}

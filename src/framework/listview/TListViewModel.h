@@ -1,0 +1,94 @@
+#pragma once
+
+#include <QAbstractTableModel>
+#include <QFont>
+#include <QStringList>
+
+#include <functional>
+#include <vector>
+
+class TImageList;
+
+// The rows of a report-style list, kept compactly: per row the caption and
+// sub-item texts, the record's key and an image index. Positions are the
+// order shown; sorting permutes the rows themselves. Nothing here touches a
+// widget, so a list of 100,000 rows fills, sorts and searches quickly.
+class TListViewModel : public QAbstractTableModel
+{
+    Q_OBJECT
+
+public:
+    explicit TListViewModel(QObject *parent = nullptr);
+
+    // Columns: caption, a free integer tag (the list frame keeps a column's
+    // saved width there) and the image shown in the header (-1 for none).
+    int addColumn(const QString &caption);
+    int columns() const { return static_cast<int>(m_columns.size()); }
+    const QString &columnCaption(int column) const;
+    int columnTag(int column) const;
+    void setColumnTag(int column, int tag);
+    int columnImage(int column) const;
+    void setColumnImage(int column, int image);
+    void clearColumns();
+
+    // Rows: texts[0] is the caption, the rest the sub-items.
+    int addRow(const QStringList &texts, int key = 0, int image = -1);
+    int rows() const { return static_cast<int>(m_rows.size()); }
+    // Column 0 is the caption, column c the sub-item c - 1; a sub-item the
+    // row does not have reads as an empty text.
+    const QString &text(int row, int column) const;
+    const QStringList &texts(int row) const;
+    void setText(int row, int column, const QString &text);
+    int key(int row) const;
+    void setKey(int row, int key);
+    int image(int row) const;
+    void setImage(int row, int image);
+    // The first position holding the key, -1 when none does.
+    int findKey(int key) const;
+    void clearRows();
+
+    // Between these, changes send no per-row notifications; the views are
+    // reset once at the end. Calls nest.
+    void beginUpdate();
+    void endUpdate();
+    bool updating() const { return m_updateDepth > 0; }
+
+    // Puts the row at position order[i] at position i. Persistent indexes
+    // (the selection) follow their rows.
+    void reorder(const std::vector<int> &order);
+
+    void setImages(const TImageList *images) { m_images = images; }
+    // Cells of the column this returns are drawn bold, and all text black.
+    void setBoldColumnSource(std::function<int()> source);
+    void setBaseFont(const QFont &font);
+    // Tells the views that every cell may look different now.
+    void repaintAll();
+
+    int rowCount(const QModelIndex &parent = QModelIndex()) const override;
+    int columnCount(const QModelIndex &parent = QModelIndex()) const override;
+    QVariant data(const QModelIndex &index, int role) const override;
+    QVariant headerData(int section, Qt::Orientation orientation, int role) const override;
+
+private:
+    struct Column
+    {
+        QString caption;
+        int tag = 0;
+        int image = -1;
+    };
+    struct Row
+    {
+        QStringList texts;
+        int key = 0;
+        int image = -1;
+    };
+
+    void rowChanged(int row, int column);
+
+    std::vector<Column> m_columns;
+    std::vector<Row> m_rows;
+    int m_updateDepth = 0;
+    const TImageList *m_images = nullptr;
+    std::function<int()> m_boldColumn;
+    QFont m_boldFont;
+};

@@ -1,0 +1,121 @@
+#include "AdvancedEdit.h"
+#include "ScriptedMessages.h"
+#include "ScriptedModalRunner.h"
+#include "SessionContext.h"
+#include "TBitBtn.h"
+#include "TestDatabase.h"
+
+#include <QComboBox>
+#include <QLabel>
+#include <QTest>
+
+#include <gtest/gtest.h>
+
+namespace {
+
+class AdvancedEdit : public testing::Test
+{
+protected:
+    void SetUp() override
+    {
+        setSession(1, &db.connection(), nullptr);
+        kowalski = addUser("jkowalski", "Jan", "Kowalski");
+        nowak = addUser("anowak", "Anna", "Nowak");
+        adamczyk = addUser("padamczyk", "Piotr", "Adamczyk");
+        TZlecenia_przychObj order(db.connection());
+        order.NUMER = 15;
+        order.IDUSER = kowalski;
+        order.KWOTA = 1250.0;
+        order.Insert();
+        orderKey = order.GetMaxId();
+    }
+
+    void TearDown() override { setSession(0, nullptr, nullptr); }
+
+    int addUser(const char *login, const char *firstName, const char *surname)
+    {
+        TUsersObj user(db.connection());
+        user.LOGIN = QString::fromUtf8(login);
+        user.IMIE = QString::fromUtf8(firstName);
+        user.NAZWISKO = QString::fromUtf8(surname);
+        user.Insert();
+        return db.scalar(QStringLiteral("SELECT ID_USER FROM USERS WHERE LOGIN = '%1'")
+                             .arg(QString::fromUtf8(login)))
+            .toInt();
+    }
+
+    int issuingUser()
+    {
+        return db
+            .scalar(
+                QStringLiteral("SELECT IDUSER FROM ZLECENIA_PRZYCH WHERE ID_ZLECENIA_PRZYCH = %1")
+                    .arg(orderKey))
+            .toInt();
+    }
+
+    TestDatabase db;
+    int kowalski = 0;
+    int nowak = 0;
+    int adamczyk = 0;
+    int orderKey = 0;
+};
+
+} // namespace
+
+TEST_F(AdvancedEdit, ListsUsersBySurnameAndShowsTheOrdersIssuer)
+{
+    auto form = TfrmRODefault::create<TfrmAdvancedEdit>(nullptr, orderKey);
+    EXPECT_TRUE(scriptedMessages().shown().empty());
+    EXPECT_EQ(form->windowTitle(), "Zaawansowana edycja");
+    EXPECT_EQ(form->lblHeader->text(), "Edycja zlecenia");
+    EXPECT_TRUE(form->ROCloseOnESC());
+    EXPECT_FALSE(form->lblKategoria->isVisibleTo(form.get()));
+    ASSERT_EQ(form->cbWypisal->count(), 3);
+    EXPECT_EQ(form->cbWypisal->itemText(0), "Piotr Adamczyk");
+    EXPECT_EQ(form->cbWypisal->itemText(1), "Jan Kowalski");
+    EXPECT_EQ(form->cbWypisal->itemText(2), "Anna Nowak");
+
+    scriptedModalRunner().expect<TfrmAdvancedEdit>([](TfrmAdvancedEdit &edit) {
+        EXPECT_EQ(edit.cbWypisal->currentText(), "Jan Kowalski");
+        return 2;
+    });
+    form->showModal();
+}
+
+TEST_F(AdvancedEdit, SavingWritesTheChosenIssuer)
+{
+    auto form = TfrmRODefault::create<TfrmAdvancedEdit>(nullptr, orderKey);
+    scriptedModalRunner().expect<TfrmAdvancedEdit>([](TfrmAdvancedEdit &edit) {
+        edit.cbWypisal->setCurrentIndex(2);
+        edit.btnOk->click();
+        return edit.result();
+    });
+    EXPECT_EQ(form->showModal(), TfrmRODefault::mrOk);
+    EXPECT_EQ(issuingUser(), nowak);
+    EXPECT_EQ(db.scalar(QStringLiteral("SELECT NUMER FROM ZLECENIA_PRZYCH")), "15");
+}
+
+TEST_F(AdvancedEdit, EscLeavesTheOrderAlone)
+{
+    auto form = TfrmRODefault::create<TfrmAdvancedEdit>(nullptr, orderKey);
+    scriptedModalRunner().expect<TfrmAdvancedEdit>([](TfrmAdvancedEdit &edit) {
+        edit.cbWypisal->setCurrentIndex(0);
+        QTest::keyClick(&edit, Qt::Key_Escape);
+        return edit.result();
+    });
+    EXPECT_EQ(form->showModal(), TfrmRODefault::mrCancel);
+    EXPECT_EQ(issuingUser(), kowalski);
+}
+
+TEST_F(AdvancedEdit, AnIssuerThatIsNoUserLeavesNothingChosenAndSaveKeepsIt)
+{
+    db.exec(QStringLiteral("UPDATE ZLECENIA_PRZYCH SET IDUSER = 999"));
+    auto form = TfrmRODefault::create<TfrmAdvancedEdit>(nullptr, orderKey);
+    scriptedModalRunner().expect<TfrmAdvancedEdit>([](TfrmAdvancedEdit &edit) {
+        EXPECT_EQ(edit.cbWypisal->currentIndex(), -1);
+        edit.btnOk->click();
+        return edit.result();
+    });
+    EXPECT_EQ(form->showModal(), TfrmRODefault::mrOk);
+    EXPECT_EQ(issuingUser(), 999);
+}

@@ -1,0 +1,58 @@
+#include "ShotDatabase.h"
+
+#include "Schema.h"
+#include "SessionContext.h"
+#include "Statement.h"
+#include "TUsersObj.h"
+#include "TZlecenia_przychObj.h"
+
+namespace {
+
+struct DemoUser
+{
+    const char *login;
+    const char *firstName;
+    const char *surname;
+};
+
+constexpr DemoUser DemoUsers[] = {
+    {"mwisniewska", "Magdalena", "Wiśniewska"},
+    {"tzielinski", "Tomasz", "Zieliński"},
+    {"kdabrowski", "Krzysztof", "Dąbrowski"},
+    {"alewandowska", "Agnieszka", "Lewandowska"},
+};
+
+} // namespace
+
+ShotDatabase::ShotDatabase()
+{
+    const QString path = m_dir.filePath(QStringLiteral("shots.fdb"));
+    Schema::createDatabase(path);
+    m_connection.open(path);
+    setSession(1, &m_connection, nullptr);
+
+    for (const DemoUser &demo : DemoUsers) {
+        TUsersObj user(m_connection);
+        user.LOGIN = QString::fromUtf8(demo.login);
+        user.IMIE = QString::fromUtf8(demo.firstName);
+        user.NAZWISKO = QString::fromUtf8(demo.surname);
+        user.VISIBLE = 1;
+        user.Insert();
+    }
+    Statement lastUser(m_connection);
+    lastUser.add(QStringLiteral("SELECT MAX(ID_USER) FROM USERS"));
+    lastUser.exec();
+    TZlecenia_przychObj order(m_connection);
+    order.NUMER = 1207;
+    order.DATA = DateTime::today();
+    order.KWOTA = 3450.0;
+    order.IDUSER = lastUser.integer(0);
+    order.Insert();
+    m_orderKey = order.GetMaxId();
+}
+
+ShotDatabase::~ShotDatabase()
+{
+    setSession(0, nullptr, nullptr);
+    m_connection.close();
+}

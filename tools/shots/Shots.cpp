@@ -1,0 +1,8 @@
+#include "Shots.h"
+
+#include "ShotBook.h"
+
+void registerShots(ShotBook &book)
+{
+    addFrameworkShots(book);
+}

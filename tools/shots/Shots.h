@@ -1,0 +1,9 @@
+#pragma once
+
+class ShotBook;
+
+// Every group of shots adds itself to the book here; one line per group.
+void registerShots(ShotBook &book);
+
+// The framework's own forms.
+void addFrameworkShots(ShotBook &book);
