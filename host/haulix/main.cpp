@@ -94,13 +94,19 @@ int main(int argc, char **argv)
                         .arg(module.fileName(), QLatin1String(entryName)));
     }
 
+    // Statements of the module commit as they run; its all-or-nothing work
+    // brackets itself with scopes on this transaction. Whatever is still
+    // open when the register closes is committed here.
     Transaction transaction(connection);
-    const std::int32_t result = entry(options->userId, &connection, &transaction);
+    std::int32_t result = 0;
     try {
+        result = entry(options->userId, &connection, &transaction);
         if (transaction.InTransaction())
             transaction.Commit();
     } catch (const DbError &e) {
         return fail(e.message());
+    } catch (const std::exception &e) {
+        return fail(QString::fromLocal8Bit(e.what()));
     }
     connection.close();
     return result == 1 || result == 2 ? 0 : 1;
