@@ -7,3 +7,6 @@ void registerShots(ShotBook &book);
 
 // The framework's own forms.
 void addFrameworkShots(ShotBook &book);
+
+// The incoming orders register.
+void addRegisterShots(ShotBook &book);

@@ -55,7 +55,8 @@ int OrderListReader::column(const char *name) const
 {
     const int index = m_statement.columnIndex(QString::fromLatin1(name));
     if (index < 0)
-        throw DbError(QStringLiteral("Brak kolumny %1 w liście zleceń.").arg(QLatin1String(name)));
+        throw DbError(
+            QStringLiteral("Brak kolumny %1 w liście zleceń.").arg(QLatin1String(name)));
     return index;
 }
 

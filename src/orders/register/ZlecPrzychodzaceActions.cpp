@@ -60,7 +60,8 @@ void TfrmZlecPrzychodzace::acDeleteExecute()
     const int row = list->selectedIndex();
     if (row < 0 || !Privileges::require(Privileges::Delete, this))
         return;
-    if (!Messages::confirm(QStringLiteral("Usuwanie"), QStringLiteral("Usunąć wybraną pozycję")))
+    if (!Messages::confirm(QStringLiteral("Usuwanie"),
+                           QStringLiteral("Usunąć wybraną pozycję")))
         return;
     try {
         Statement st(*session().Database);

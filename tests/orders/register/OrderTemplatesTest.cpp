@@ -61,8 +61,9 @@ TEST_F(OrderTemplatesTest, AreInsertedOnceForTheChosenDay)
 
 TEST_F(OrderTemplatesTest, AFailedTemplateLeavesTheTemplatesAsTheyWere)
 {
-    db.exec(QStringLiteral("ALTER TABLE TOWARY ADD CONSTRAINT CK_TEST_TOWARY CHECK (ID_ZLECENIA <= "
-                           "(SELECT MAX(ID_ZLECENIA_PRZYCH) FROM ZLECENIA_PRZYCH WHERE DATA IS NULL))"));
+    db.exec(QStringLiteral(
+        "ALTER TABLE TOWARY ADD CONSTRAINT CK_TEST_TOWARY CHECK (ID_ZLECENIA <= "
+        "(SELECT MAX(ID_ZLECENIA_PRZYCH) FROM ZLECENIA_PRZYCH WHERE DATA IS NULL))"));
     const int orders = orderCount();
     scriptedMessages().expect();   // the goods table's error
     EXPECT_EQ(OrderTemplates::insertForDay(db.connection(), transaction, QDate(2027, 2, 15)), 0);
@@ -84,7 +85,8 @@ TEST_F(OrderTemplatesTest, APlaceIsFoundOrMadeEmpty)
     EXPECT_EQ(unloading.ADRES1, "Portowa 5");
     const int places = db.count(QStringLiteral("MIEJSCA_ZLEC"));
 
-    const TMiejsca_zlecObj loading = OrderPlaces::placeOf(db.connection(), key, OrderPlaces::Loading);
+    const TMiejsca_zlecObj loading
+        = OrderPlaces::placeOf(db.connection(), key, OrderPlaces::Loading);
     EXPECT_EQ(db.count(QStringLiteral("MIEJSCA_ZLEC")), places + 1);
     EXPECT_GT(loading.ID_MIEJSCA_ZLEC, 0);
     EXPECT_EQ(loading.ID_ZLECENIA, key);

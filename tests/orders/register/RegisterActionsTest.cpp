@@ -214,8 +214,8 @@ TEST_F(RegisterActions, CopyMakesOneOrderWithItsFirstPlacesAndSixGoodsColumns)
     EXPECT_EQ(scriptedMessages().shown()[0].caption, "Kopiowaie zlecenia");
     EXPECT_EQ(scriptedMessages().shown()[0].text, "Czy powielić wybraną pozycję?");
     ASSERT_EQ(orderCount(), orders + 1);
-    const int copy = db.scalar(QStringLiteral("SELECT MAX(ID_ZLECENIA_PRZYCH) FROM ZLECENIA_PRZYCH"))
-                         .toInt();
+    const int copy
+        = db.scalar(QStringLiteral("SELECT MAX(ID_ZLECENIA_PRZYCH) FROM ZLECENIA_PRZYCH")).toInt();
     const TZlecenia_przychObj copied = order(copy);
     EXPECT_EQ(copied.NUMER, 0);
     EXPECT_EQ(copied.IDFAKTURY, 0);
@@ -257,7 +257,8 @@ TEST_F(RegisterActions, ACopyThatFailsHalfwayLeavesNothingBehind)
     const int source = addOrder();
     addPlace(source, 1, QStringLiteral("Polna 1"));
     addGoods(source, QStringLiteral("Jabłka"));
-    db.exec(QStringLiteral("ALTER TABLE TOWARY ADD CONSTRAINT CK_TEST_TOWARY CHECK (ID_ZLECENIA <= %1)")
+    db.exec(QStringLiteral(
+                "ALTER TABLE TOWARY ADD CONSTRAINT CK_TEST_TOWARY CHECK (ID_ZLECENIA <= %1)")
                 .arg(source));
     const int orders = orderCount();
     const int places = db.count(QStringLiteral("MIEJSCA_ZLEC"));
