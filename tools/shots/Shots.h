@@ -7,3 +7,6 @@ void registerShots(ShotBook &book);
 
 // The framework's own forms.
 void addFrameworkShots(ShotBook &book);
+
+// A sample page of the report engine.
+void addReportShots(ShotBook &book);
