@@ -64,7 +64,7 @@ TfrmAddEditStawkiTaryfowe::TfrmAddEditStawkiTaryfowe(QWidget *owner, Mode mode, 
     layout->setRowStretch(layout->rowCount(), 1);
 
     connect(btnOk, &TBitBtn::clicked, this, &TfrmAddEditStawkiTaryfowe::btnOkClick);
-    resize(460, 380);
+    resize(540, 380);
 }
 
 TLimitedFloatEdit *TfrmAddEditStawkiTaryfowe::amountEdit(const QString &name)

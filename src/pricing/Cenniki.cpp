@@ -16,6 +16,7 @@
 #include <QPainter>
 #include <QTableWidget>
 
+#include <algorithm>
 #include <unordered_map>
 
 namespace {
@@ -129,6 +130,10 @@ void TfrmCenniki::buildGrid()
         sgCennik->setVerticalHeaderItem(int(r), rangeHeader(rows[r]));
     for (std::size_t c = 0; c < columns.size(); ++c)
         sgCennik->setHorizontalHeaderItem(int(c), rangeHeader(columns[c]));
+    // 70 wide unless a range's text needs more.
+    QHeaderView *header = sgCennik->horizontalHeader();
+    for (int c = 0; c < sgCennik->columnCount(); ++c)
+        header->resizeSection(c, std::max(70, header->sectionSizeHint(c)));
 }
 
 int TfrmCenniki::RowCount() const

@@ -181,7 +181,8 @@ void TfrmMiasta::deleteRoute()
     const int row = list->selectedIndex();
     if (!database || row < 0)
         return;
-    if (!Messages::confirm(QStringLiteral("Usuwanie"), QStringLiteral("Usunąć wybraną pozycję")))
+    if (!Messages::confirm(QStringLiteral("Usuwanie"),
+                           QStringLiteral("Usunąć wybraną pozycję")))
         return;
     const int routeKey = list->key(row);
     const TDaneFirmy firma;

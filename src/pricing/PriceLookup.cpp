@@ -28,11 +28,13 @@ double PriceLookup::amount(Connection &connection, int group, int kilometres, do
     Statement query(connection);
     const int rowKey = rangeKey(
         query,
-        QStringLiteral("select * from cenniki_kraj_wiersze where zakres_wod<=:wart AND zakres_wdo>=:wart"),
+        QStringLiteral("select * from cenniki_kraj_wiersze where zakres_wod<=:wart AND "
+                       "zakres_wdo>=:wart"),
         QStringLiteral("ID_CENNIKI_KRAJ_WIERSZE"), kilometres);
     const int columnKey = rangeKey(
         query,
-        QStringLiteral("select * from CENNIKI_KRAJ_KOLUMNY where zakres_kod<=:wart AND zakres_kdo>=:wart"),
+        QStringLiteral("select * from CENNIKI_KRAJ_KOLUMNY where zakres_kod<=:wart AND "
+                       "zakres_kdo>=:wart"),
         QStringLiteral("ID_CENNIKI_KRAJ_KOLUMNY"), kilograms(tonnes));
 
     query.clear();

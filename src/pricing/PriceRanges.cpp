@@ -103,8 +103,10 @@ std::vector<PriceRange> PriceRanges::list(Connection &connection, RangeAxis axis
     st.exec();
     const int key = st.columnIndex(rows ? QStringLiteral("ID_CENNIKI_KRAJ_WIERSZE")
                                         : QStringLiteral("ID_CENNIKI_KRAJ_KOLUMNY"));
-    const int from = st.columnIndex(rows ? QStringLiteral("ZAKRES_WOD") : QStringLiteral("ZAKRES_KOD"));
-    const int to = st.columnIndex(rows ? QStringLiteral("ZAKRES_WDO") : QStringLiteral("ZAKRES_KDO"));
+    const int from
+        = st.columnIndex(rows ? QStringLiteral("ZAKRES_WOD") : QStringLiteral("ZAKRES_KOD"));
+    const int to
+        = st.columnIndex(rows ? QStringLiteral("ZAKRES_WDO") : QStringLiteral("ZAKRES_KDO"));
     std::vector<PriceRange> ranges;
     for (; !st.atEnd(); st.next())
         ranges.push_back({st.integer(key), st.integer(from), st.integer(to)});
@@ -114,9 +116,10 @@ std::vector<PriceRange> PriceRanges::list(Connection &connection, RangeAxis axis
 QString PriceRanges::duplicateTest(RangeAxis axis, int exceptKey)
 {
     const bool rows = axis == RangeAxis::Kilometres;
-    QString test = rows
-        ? QStringLiteral("select count(*) as ilosc from CENNIKI_KRAJ_WIERSZE where ZAKRES_WDO=:wartosc")
-        : QStringLiteral("select count(*) as ilosc from CENNIKI_KRAJ_KOLUMNY where ZAKRES_KDO=:wartosc");
+    QString test = rows ? QStringLiteral("select count(*) as ilosc from CENNIKI_KRAJ_WIERSZE "
+                                         "where ZAKRES_WDO=:wartosc")
+                        : QStringLiteral("select count(*) as ilosc from CENNIKI_KRAJ_KOLUMNY "
+                                         "where ZAKRES_KDO=:wartosc");
     if (exceptKey > 0) {
         test += rows ? QStringLiteral(" AND ID_CENNIKI_KRAJ_WIERSZE<>")
                      : QStringLiteral(" AND ID_CENNIKI_KRAJ_KOLUMNY<>");

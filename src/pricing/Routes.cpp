@@ -10,7 +10,8 @@ std::vector<RouteRow> Routes::startingIn(Connection &connection, int cityKey)
     st.add(QStringLiteral("(select nazwa from miasta where o.idmiastaod=id_miasta) as  miastood,"));
     st.add(QStringLiteral("(select nazwa from miasta where o.idmiastado=id_miasta) as  miastodo,"));
     st.add(QStringLiteral("(select kod from miasta where o.idmiastado=id_miasta) as  KOD,"));
-    st.add(QStringLiteral("(select nazwa from miasta where o.idmiastavia=id_miasta) as  miastovia"));
+    st.add(QStringLiteral(
+        "(select nazwa from miasta where o.idmiastavia=id_miasta) as  miastovia"));
     st.add(QStringLiteral("from odleglosci o where o.idmiastaod=:mod "));
     st.bind(QStringLiteral("mod"), cityKey);
     st.exec();

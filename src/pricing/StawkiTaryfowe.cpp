@@ -87,7 +87,7 @@ TfrmStawkiTaryfowe::TfrmStawkiTaryfowe(QWidget *owner, int currentTariffId, int 
     frameListView1->pmMain->addActions({acDodaj, acPopraw, acUsun});
 
     connect(btnOk, &TBitBtn::clicked, this, &TfrmStawkiTaryfowe::btnOkClick);
-    resize(720, 460);
+    resize(900, 480);
 }
 
 const TTaryfyprzewoznikaObj &TfrmStawkiTaryfowe::selectedTariff() const
@@ -168,8 +168,8 @@ void TfrmStawkiTaryfowe::acPoprawExecute()
     if (!record)
         return;
     const int key = record->ID_TARYFYPRZEWOZNIKA;
-    auto editor
-        = TfrmRODefault::create<TfrmAddEditStawkiTaryfowe>(this, TfrmAddEditStawkiTaryfowe::Edit, key);
+    auto editor = TfrmRODefault::create<TfrmAddEditStawkiTaryfowe>(
+        this, TfrmAddEditStawkiTaryfowe::Edit, key);
     if (editor->showModal() == mrOk) {
         LoadLVData();
         frameListView1->lvMain->selectByKey(key);
@@ -183,7 +183,8 @@ void TfrmStawkiTaryfowe::acUsunExecute()
     const TTaryfyprzewoznikaObj *record = recordAt(row);
     if (!record)
         return;
-    if (!Messages::confirm(QStringLiteral("Usuwanie"), QStringLiteral("Usunąć wybraną pozycję")))
+    if (!Messages::confirm(QStringLiteral("Usuwanie"),
+                           QStringLiteral("Usunąć wybraną pozycję")))
         return;
     TTaryfyprzewoznikaObj doomed = *record;
     doomed.Delete();

@@ -163,7 +163,8 @@ TEST_F(PriceGrid, ZeroInAnEmptyCellStoresNothingAndAPositiveAmountStoresIt)
     EXPECT_EQ(cells(QStringLiteral("GRUPA = 0")), 1);
 
     editCell(*grid, 1, 2, 450.0);
-    EXPECT_EQ(cells(QStringLiteral("GRUPA = 0 AND KILOMETRY = %1 AND KILOGRAMY = %2 AND KWOTA = 450")
+    EXPECT_EQ(cells(QStringLiteral("GRUPA = 0 AND KILOMETRY = %1 AND KILOGRAMY = %2 AND "
+                                   "KWOTA = 450")
                         .arg(far)
                         .arg(light)),
               1);

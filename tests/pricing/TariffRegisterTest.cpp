@@ -148,12 +148,14 @@ TEST_F(TariffRegister, AddingStoresTheKindAndZeroStorage)
         return e.result();
     });
     form->acDodaj->trigger();
-    const QString key = db.scalar(QStringLiteral("SELECT MAX(ID_TARYFYPRZEWOZNIKA) FROM TARYFYPRZEWOZNIKA"));
+    const QString key
+        = db.scalar(QStringLiteral("SELECT MAX(ID_TARYFYPRZEWOZNIKA) FROM TARYFYPRZEWOZNIKA"));
     EXPECT_EQ(db.count(QStringLiteral("TARYFYPRZEWOZNIKA"),
-                       QStringLiteral("ID_TARYFYPRZEWOZNIKA = %1 AND NAZWA_STAWKI = 'Paletowa' AND "
-                                      "TARYFAWLASNA = 1 AND NUMER_STAWKI = 14 AND KWOTA_ZA_KM_LAD = 2.5 "
-                                      "AND KWOTA_ZA_KM = 11 AND KWOTA_ZA_PALETE = 40 AND "
-                                      "KWOTA_ZA_GODZ = 90 AND MAGAZYNOWANIE = 0 AND INNE = 0")
+                       QStringLiteral("ID_TARYFYPRZEWOZNIKA = %1 AND NAZWA_STAWKI = 'Paletowa' "
+                                      "AND TARYFAWLASNA = 1 AND NUMER_STAWKI = 14 AND "
+                                      "KWOTA_ZA_KM_LAD = 2.5 AND KWOTA_ZA_KM = 11 AND "
+                                      "KWOTA_ZA_PALETE = 40 AND KWOTA_ZA_GODZ = 90 AND "
+                                      "MAGAZYNOWANIE = 0 AND INNE = 0")
                            .arg(key)),
               1);
     EXPECT_TRUE(captions(*form).contains("Paletowa"));

@@ -7,3 +7,6 @@ void registerShots(ShotBook &book);
 
 // The framework's own forms.
 void addFrameworkShots(ShotBook &book);
+
+// Price lists, tariffs, cities and distances.
+void addPricingShots(ShotBook &book);
