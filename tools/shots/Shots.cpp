@@ -6,4 +6,5 @@ void registerShots(ShotBook &book)
 {
     addFrameworkShots(book);
     addReportShots(book);
+    addPricingShots(book);
 }

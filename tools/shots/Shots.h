@@ -10,3 +10,6 @@ void addFrameworkShots(ShotBook &book);
 
 // A sample page of the report engine.
 void addReportShots(ShotBook &book);
+
+// Price lists, tariffs, cities and distances.
+void addPricingShots(ShotBook &book);
