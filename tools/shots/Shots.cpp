@@ -6,4 +6,6 @@ void registerShots(ShotBook &book)
 {
     addFrameworkShots(book);
     addRegisterShots(book);
+    addReportShots(book);
+    addPricingShots(book);
 }

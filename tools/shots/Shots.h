@@ -10,3 +10,9 @@ void addFrameworkShots(ShotBook &book);
 
 // The incoming orders register.
 void addRegisterShots(ShotBook &book);
+
+// A sample page of the report engine.
+void addReportShots(ShotBook &book);
+
+// Price lists, tariffs, cities and distances.
+void addPricingShots(ShotBook &book);
