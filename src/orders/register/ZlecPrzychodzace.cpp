@@ -153,6 +153,7 @@ void TfrmZlecPrzychodzace::buildButtons(QWidget *parent)
     btnPowiel = button(QStringLiteral("Powiel"), QStringLiteral("btnPowiel"), parent);
     BitBtn5 = button(QStringLiteral("Wstaw z wzorca"), QStringLiteral("BitBtn5"), parent);
     BitBtn5->hide();
+    BitBtn6 = button(QStringLiteral("&Kilometry"), QStringLiteral("BitBtn6"), parent);
     btnCenniki = button(QStringLiteral("-> *.CSV"), QStringLiteral("btnCenniki"), parent);
 
     auto *layout = new QHBoxLayout(parent);
@@ -160,6 +161,7 @@ void TfrmZlecPrzychodzace::buildButtons(QWidget *parent)
     layout->addWidget(btnPowiel);
     layout->addWidget(BitBtn5);
     layout->addStretch(1);
+    layout->addWidget(BitBtn6);
     layout->addWidget(btnCenniki);
 }
 
@@ -215,6 +217,7 @@ void TfrmZlecPrzychodzace::buildActions()
     connect(frameListView1->BitBtn7, &QPushButton::clicked, frameListView1,
             &TframeListView::Refresh);
     connect(btnCenniki, &QPushButton::clicked, this, &TfrmZlecPrzychodzace::btnCennikiClick);
+    connect(BitBtn6, &QPushButton::clicked, this, &TfrmZlecPrzychodzace::BitBtn6Click);
 
     if (BtnKalendarz1) {
         BtnKalendarz1->show();

@@ -58,6 +58,7 @@ public:
     QWidget *pnlBttns;
     TBitBtn *btnPowiel;
     TBitBtn *BitBtn5;     // "Wstaw z wzorca", hidden
+    TBitBtn *BitBtn6;     // "&Kilometry"
     TBitBtn *btnCenniki;  // "-> *.CSV"
 
     QLabel *lblKwota;
@@ -88,6 +89,7 @@ private:
     void acAdvancedEditExecute();
     void Zamknij1Click();
     void btnCennikiClick();
+    void BitBtn6Click();
 
     // Reloads the list and selects the order, scrolled into view.
     void reloadAndSelect(int orderKey);

@@ -5,6 +5,7 @@
 #include "DbError.h"
 #include "FilePrompts.h"
 #include "LVFrame.h"
+#include "Miasta.h"
 #include "MessageService.h"
 #include "OrderCopy.h"
 #include "Privileges.h"
@@ -144,4 +145,10 @@ void TfrmZlecPrzychodzace::btnCennikiClick()
     if (!RegisterExport::write(frameListView1->lvMain->items(), path))
         MessageService::instance().showMessage(QStringLiteral("Błąd otwarcia pliku (") + path
                                                + u')');
+}
+
+void TfrmZlecPrzychodzace::BitBtn6Click()
+{
+    const auto distances = TfrmRODefault::create<TfrmMiasta>(this);
+    distances->showModal();
 }

@@ -1,5 +1,6 @@
 #include "AdvancedEdit.h"
 #include "LVFrame.h"
+#include "Miasta.h"
 #include "OrderListColumns.h"
 #include "RegisterFixture.h"
 #include "ScriptedFilePrompts.h"
@@ -327,6 +328,22 @@ TEST_F(RegisterActions, CtrlAOpensTheAdvancedEditAndReselectsTheOrder)
               db.scalar(QStringLiteral("SELECT LOGIN FROM USERS WHERE ID_USER = 2")));
     const TListView *list = form->frameListView1->lvMain;
     EXPECT_EQ(list->key(list->selectedIndex()), key);
+}
+
+TEST_F(RegisterActions, KilometryOpensTheDistanceRegisterWithoutASelection)
+{
+    const auto form = openRegister();
+    form->frameListView1->lvMain->setSelectedIndex(-1);
+    QString firstCity;
+    scriptedModalRunner().expect<TfrmMiasta>([&](TfrmMiasta &distances) {
+        EXPECT_EQ(distances.parentWidget(), form.get());
+        firstCity = distances.CBMiasta->itemText(1);
+        return 2;
+    });
+    form->BitBtn6->click();
+    EXPECT_TRUE(scriptedModalRunner().allRun());
+    EXPECT_FALSE(firstCity.isEmpty());
+    EXPECT_TRUE(scriptedMessages().shown().empty());
 }
 
 TEST_F(RegisterActions, DetachingFromACollectiveOrderClearsItsKey)
