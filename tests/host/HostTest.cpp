@@ -30,6 +30,13 @@ HostRun runHost(const QString &program, const QStringList &arguments)
 
 const QString Host = QStringLiteral(HAULIX_HOST_PATH);
 
+void seedSmallDemo(TestDatabase &db)
+{
+    DemoSeeder::Options options;
+    options.orders = 5;
+    DemoSeeder(db.connection(), options).seed();
+}
+
 } // namespace
 
 TEST(Host, ADatabaseThatCannotBeOpenedIsNamedWithTheReason)
@@ -44,10 +51,7 @@ TEST(Host, ADatabaseThatCannotBeOpenedIsNamedWithTheReason)
 TEST(Host, AnUnknownUserIsRefused)
 {
     TestDatabase db;
-    DemoSeeder::Options options;
-    options.orders = 5;
-    DemoSeeder(db.connection(), options).seed();
-    db.connection().close();
+    seedSmallDemo(db);
     const HostRun run = runHost(Host, {QStringLiteral("--db"), db.path(), QStringLiteral("--user"),
                                    QStringLiteral("99")});
     EXPECT_EQ(run.exitCode, 1);
@@ -66,10 +70,7 @@ TEST(Host, AWrongArgumentShowsTheUsage)
 TEST(Host, AMissingModuleIsNamedWithItsFullPath)
 {
     TestDatabase db;
-    DemoSeeder::Options options;
-    options.orders = 5;
-    DemoSeeder(db.connection(), options).seed();
-    db.connection().close();
+    seedSmallDemo(db);
     // The program alone, without the Library folder beside it.
     QTemporaryDir alone;
     const QString copy = alone.filePath(QStringLiteral("haulix"));
