@@ -213,6 +213,10 @@ void TfrmZlecPrzychodzace::buildActions()
     connect(Zamknij1, &QAction::triggered, this, &TfrmZlecPrzychodzace::Zamknij1Click);
 
     standFor(frameListView1->BitBtn6, acDelete);
+    // Adding and correcting belong to the order editor, which the register
+    // does not open yet: no button offers them.
+    frameListView1->BitBtn5->hide();
+    frameListView1->BitBtn4->hide();
     standFor(btnPowiel, acPowiel);
     connect(frameListView1->BitBtn7, &QPushButton::clicked, frameListView1,
             &TframeListView::Refresh);
