@@ -10,7 +10,7 @@ packages=(
   firebird3.0-server-core firebird3.0-utils firebird-dev firebird3.0-server
   googletest libgtest-dev libbenchmark-dev
   poppler-utils
-  fonts-dejavu-core
+  fonts-dejavu-core fonts-wine
 )
 
 missing=()

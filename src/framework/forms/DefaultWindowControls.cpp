@@ -1,6 +1,7 @@
 // How TfrmRODefault finishes a form: font, header, the author checks and
 // the set-up of each kind of control.
 #include "DefaultWindow.h"
+#include "TahomaFont.h"
 
 #include "LVFrame.h"
 #include "MessageService.h"
@@ -67,7 +68,7 @@ QList<QWidget *> TfrmRODefault::ownWidgets() const
 
 void TfrmRODefault::FormCreate()
 {
-    setFont(QFont(QStringLiteral("Tahoma")));
+    setFont(tahomaFont());
     if (!m_showHeader)
         destroyHeader();
     if (!m_ignoreShortcutChecking)

@@ -1,8 +1,10 @@
 #include "ReportFont.h"
 
+#include "TahomaFont.h"
+
 QFont ReportFont::toQFont() const
 {
-    QFont font(family);
+    QFont font = family == QLatin1String("Tahoma") ? tahomaFont() : QFont(family);
     font.setStyleHint(QFont::SansSerif);
     font.setPointSizeF(pointSize);
     font.setBold(bold);
