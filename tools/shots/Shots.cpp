@@ -5,4 +5,5 @@
 void registerShots(ShotBook &book)
 {
     addFrameworkShots(book);
+    addOrdersShots(book);
 }

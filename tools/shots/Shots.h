@@ -7,3 +7,6 @@ void registerShots(ShotBook &book);
 
 // The framework's own forms.
 void addFrameworkShots(ShotBook &book);
+
+// The order editor, goods, places and the template date.
+void addOrdersShots(ShotBook &book);

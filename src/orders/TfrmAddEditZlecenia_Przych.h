@@ -1,0 +1,174 @@
+#pragma once
+
+#include "DefaultWindow.h"
+#include "OrderRates.h"
+#include "TZlecenia_przychObj.h"
+
+class QAction;
+class QCheckBox;
+class QComboBox;
+class QGroupBox;
+class QLabel;
+class QLineEdit;
+class QPlainTextEdit;
+class QPushButton;
+class QRadioButton;
+class QSpinBox;
+class TDateEdit;
+class TNumberEdit;
+
+// The dialog in which one incoming order is entered or corrected: client,
+// carrier, route, loading and unloading, the four priced quantities with
+// their rates, the revenue (agreed or by tariff), the carrier cost (agreed
+// or by the carrier's tariff), vehicle, driver, documents and a description.
+//
+// Created with the order's key and a mode: 0 adds a new order (the key is
+// not used), 1 corrects the order with that key. Shown modally; OK (1) after
+// the order was saved, cancel (2) with the database untouched.
+class TfrmAddEditZlecenia_Przych : public TfrmRODefault
+{
+    Q_OBJECT
+
+public:
+    enum Mode { Add = 0, Edit = 1 };
+
+    TfrmAddEditZlecenia_Przych(QWidget *owner, int orderKey, int mode);
+
+    int orderKey() const { return m_order.ID_ZLECENIA_PRZYCH; }
+    int mode() const { return m_mode; }
+    // The order as loaded (edit) or as a new record (add); after a save, as
+    // saved.
+    const TZlecenia_przychObj &order() const { return m_order; }
+
+    // The keys the picker fields keep beside their texts (0 for none).
+    int tariffKey() const { return m_tariffKey; }
+    int costTariffKey() const { return m_costTariffKey; }
+    int driverKey() const { return m_driverKey; }
+    // The contractor that stands for the company itself (IDWłaściciela).
+    int ownerKey() const { return m_ownerKey; }
+
+    // What lblStawkaRazem shows.
+    double totalRate() const;
+    OrderQuantities quantities() const;
+    UnitRates rates() const;
+
+    QLabel *lblNumerKolejny;
+    QSpinBox *seNumerKolejny;
+    QLabel *lblPrzeladunek;
+    QLineEdit *edPrzeladunek;
+    QLabel *lblKlient;
+    QComboBox *cbKlient;
+    QPushButton *btnKlientMore;
+    QCheckBox *cbPrzewoznikObcy;
+    QComboBox *cbPrzewoznik;
+    QPushButton *BitBtn1;
+
+    QLabel *lblMiastoOd;
+    QComboBox *cbMiastoOd;
+    QLabel *lblMiastoPrzez;
+    QComboBox *cbMiastoPrzez;
+    QLabel *lblMiastoDo;
+    QComboBox *cbMiastoDo;
+
+    QGroupBox *gbZaladunek;
+    TDateEdit *deAwizo;
+    QLineEdit *meAwizo;
+    QGroupBox *gbRozladunek;
+    TDateEdit *deRozladunek;
+    QLineEdit *meRozladunek;
+
+    QLabel *lblOdleglosc;
+    QSpinBox *seOdleglosc;
+    QLabel *lblKMLadownych;
+    QSpinBox *seKMLadownych;
+    TNumberEdit *edStawkaKMLadowny;
+    QLabel *lblKMPustych;
+    TNumberEdit *seKMPustych;
+    TNumberEdit *edStawkaKMPusty;
+    QLabel *lblIloscGodzin;
+    TNumberEdit *seIloscGodzin;
+    TNumberEdit *edStawkaIloscGodzin;
+    QLabel *lblIloscPalet;
+    QSpinBox *seIloscPalet;
+    TNumberEdit *edStawkaIloscPalet;
+
+    QGroupBox *gbStawka;
+    QRadioButton *rbStawkaUmowna;
+    TNumberEdit *seKwota;
+    QRadioButton *rbStawkaTaryfowa;
+    QLineEdit *ceTaryfa;
+    QGroupBox *gbKoszty;
+    QRadioButton *rbKosztUmowna;
+    TNumberEdit *seKosztKwota;
+    QRadioButton *rgKosztTaryfa;
+    QLineEdit *ceKosztTaryfa;
+
+    QLabel *lblRabat;
+    TNumberEdit *ceRabat;
+    QLabel *lblStawkaRazemOpis;
+    QLabel *lblStawkaRazem;
+    QLabel *lblOplataSkarbowa;
+    TNumberEdit *ceOplataSkarbowa;   // hidden
+
+    QLabel *lblPojazd;
+    QLineEdit *edPojazd;
+    QLabel *lblNaczepa;
+    QLineEdit *edNaczepa;
+    QLabel *lblKierowca;
+    QLineEdit *ceKierowca;
+    QAction *acKierowca;             // the driver field's button
+
+    QLabel *lblDokWZ;
+    QSpinBox *seDokWZ;
+    QLabel *lblNrKarty;
+    QSpinBox *edNrKarty;
+    QLabel *lblNrListu;
+    QSpinBox *edNrListu;
+    QLabel *lblOpisDod;
+    QPlainTextEdit *memOpisDod;
+    QLabel *lblTekstStaly;
+    QLineEdit *edTekstStaly;         // disabled
+
+    QComboBox *cbWspolnik;           // hidden, FILTR1
+    QCheckBox *chslubice;            // hidden, FILTR2
+
+protected:
+    void FormCreate() override;
+
+private:
+    void buildControls();
+    void buildLayout();
+    void connectControls();
+
+    void fillLists();
+    void fillContractors();
+    void showOrder();
+    void showNewOrder();
+    void showTariffName(QLineEdit *field, int key);
+
+    void recomputeTotal();
+    void applyRevenueMode();
+    void applyCostMode();
+    void rbStawkaClick();
+    void rbKosztClick();
+    void carrierChosen();
+    void ownCarrierClick(bool checked);
+    void btnKlientMoreClick();
+    void BitBtn1Click();
+    void acKierowcaExecute();
+    void limitDescription();
+
+    void btnOkClick();
+    // The controls into the record; false (after the message) when a time
+    // does not convert, and then nothing was changed.
+    bool collectOrder();
+    double carrierCost() const;
+    void save();
+
+    TZlecenia_przychObj m_order;
+    int m_mode;
+    int m_tariffKey = 0;
+    int m_costTariffKey = 0;
+    int m_driverKey = 0;
+    int m_ownerKey = 0;
+};

@@ -1,0 +1,272 @@
+// The controls of the order editor and where they stand.
+#include "TNumberEdit.h"
+#include "TDateEdit.h"
+#include "PickerButton.h"
+#include "TfrmAddEditZlecenia_Przych.h"
+
+#include <QCheckBox>
+#include <QComboBox>
+#include <QGridLayout>
+#include <QGroupBox>
+#include <QLabel>
+#include <QLineEdit>
+#include <QPlainTextEdit>
+#include <QPushButton>
+#include <QRadioButton>
+#include <QSpinBox>
+
+namespace {
+
+template <class Widget, class... Args>
+Widget *named(const char *name, Args &&...args)
+{
+    auto *widget = new Widget(std::forward<Args>(args)...);
+    widget->setObjectName(QString::fromLatin1(name));
+    return widget;
+}
+
+QSpinBox *wholeNumber(const char *name, int maximum, QWidget *parent)
+{
+    auto *spin = named<QSpinBox>(name, parent);
+    spin->setRange(0, maximum);
+    spin->setAlignment(Qt::AlignRight | Qt::AlignVCenter);
+    return spin;
+}
+
+TNumberEdit *amount(const char *name, QWidget *parent, double maximum = 9999999.99)
+{
+    // Tariff rates come with up to four decimals; all of them count.
+    return named<TNumberEdit>(name, QStringLiteral("#,##0.00##"), 4, maximum, parent);
+}
+
+QLineEdit *text(const char *name, int length, QWidget *parent)
+{
+    auto *edit = named<QLineEdit>(name, parent);
+    edit->setMaxLength(length);
+    return edit;
+}
+
+QLineEdit *timeField(const char *name, QWidget *parent)
+{
+    auto *edit = named<QLineEdit>(name, parent);
+    edit->setInputMask(QStringLiteral("09:99;_"));
+    edit->setMaxLength(5);
+    edit->setText(QStringLiteral("00:00"));
+    edit->setMaximumWidth(60);
+    return edit;
+}
+
+QLabel *caption(const QString &text, QWidget *buddy, QWidget *parent)
+{
+    auto *label = new QLabel(text, parent);
+    label->setBuddy(buddy);
+    return label;
+}
+
+QGroupBox *dayAndHour(const char *name, const QString &title, TDateEdit *&day, QLineEdit *&hour,
+                      const char *dayName, const char *hourName, QWidget *parent)
+{
+    auto *group = named<QGroupBox>(name, title, parent);
+    day = named<TDateEdit>(dayName, group);
+    hour = timeField(hourName, group);
+    auto *layout = new QGridLayout(group);
+    layout->addWidget(caption(QStringLiteral("Data"), day, group), 0, 0);
+    layout->addWidget(day, 0, 1);
+    layout->addWidget(caption(QStringLiteral("Godzina"), hour, group), 0, 2);
+    layout->addWidget(hour, 0, 3);
+    layout->setColumnStretch(1, 1);
+    return group;
+}
+
+} // namespace
+
+void TfrmAddEditZlecenia_Przych::buildControls()
+{
+    QWidget *p = pnlClient;
+    seNumerKolejny = wholeNumber("seNumerKolejny", 9999999, p);
+    seNumerKolejny->setMinimumWidth(90);
+    lblNumerKolejny = caption(QStringLiteral("Numer zlecenia"), seNumerKolejny, p);
+    edPrzeladunek = text("edPrzeladunek", 25, p);
+    lblPrzeladunek = caption(QStringLiteral("Zlecenie obce nr"), edPrzeladunek, p);
+    cbKlient = named<QComboBox>("cbKlient", p);
+    lblKlient = caption(QStringLiteral("Zleceniodawca"), cbKlient, p);
+    btnKlientMore = named<QPushButton>("btnKlientMore", QStringLiteral("Więcej..."), p);
+    cbPrzewoznikObcy = named<QCheckBox>("cbPrzewoznikObcy", QStringLiteral("Perzewoźnik własny:"), p);
+    cbPrzewoznikObcy->setLayoutDirection(Qt::RightToLeft);
+    cbPrzewoznik = named<QComboBox>("cbPrzewoznik", p);
+    BitBtn1 = named<QPushButton>("BitBtn1", QStringLiteral("Więcej..."), p);
+
+    cbMiastoOd = named<QComboBox>("cbMiastoOd", p);
+    lblMiastoOd = caption(QStringLiteral("Z miasta"), cbMiastoOd, p);
+    cbMiastoPrzez = named<QComboBox>("cbMiastoPrzez", p);
+    lblMiastoPrzez = caption(QStringLiteral("przez"), cbMiastoPrzez, p);
+    cbMiastoDo = named<QComboBox>("cbMiastoDo", p);
+    lblMiastoDo = caption(QStringLiteral("do miasta"), cbMiastoDo, p);
+    for (QComboBox *city : {cbMiastoOd, cbMiastoPrzez, cbMiastoDo}) {
+        city->setMaxVisibleItems(24);
+        city->setMinimumWidth(150);
+    }
+
+    gbZaladunek = dayAndHour("gbZaladunek", QStringLiteral("Załadunek"), deAwizo, meAwizo,
+                             "deAwizo", "meAwizo", p);
+    gbRozladunek = dayAndHour("gbRozladunek", QStringLiteral("Rozładunek"), deRozladunek,
+                              meRozladunek, "deRozladunek", "meRozladunek", p);
+
+    seOdleglosc = wholeNumber("seOdleglosc", 99999, p);
+    lblOdleglosc = caption(QStringLiteral("Odległość"), seOdleglosc, p);
+    seKMLadownych = wholeNumber("seKMLadownych", 99999, p);
+    lblKMLadownych = caption(QStringLiteral("Kilometry"), seKMLadownych, p);
+    edStawkaKMLadowny = amount("edStawkaKMLadowny", p);
+    seKMPustych = named<TNumberEdit>("seKMPustych", QStringLiteral("0.000"), 3, 999.999, p);
+    lblKMPustych = caption(QStringLiteral("Ilość ton"), seKMPustych, p);
+    edStawkaKMPusty = amount("edStawkaKMPusty", p);
+    seIloscGodzin = named<TNumberEdit>("seIloscGodzin", QStringLiteral("0.0"), 1, 999.9, p);
+    lblIloscGodzin = caption(QStringLiteral("Ilość godzin"), seIloscGodzin, p);
+    edStawkaIloscGodzin = amount("edStawkaIloscGodzin", p);
+    seIloscPalet = wholeNumber("seIloscPalet", 99999, p);
+    lblIloscPalet = caption(QStringLiteral("Ilość palet"), seIloscPalet, p);
+    edStawkaIloscPalet = amount("edStawkaIloscPalet", p);
+
+    gbStawka = named<QGroupBox>("gbStawka", QStringLiteral("Stawka"), p);
+    rbStawkaUmowna = named<QRadioButton>("rbStawkaUmowna", QStringLiteral("Umowna"), gbStawka);
+    seKwota = named<TNumberEdit>("seKwota", QStringLiteral("#,##0.00"), 2, 99999.0, gbStawka);
+    rbStawkaTaryfowa = named<QRadioButton>("rbStawkaTaryfowa", QStringLiteral("Wg taryfy"), gbStawka);
+    ceTaryfa = text("ceTaryfa", 45, gbStawka);
+    ceTaryfa->setReadOnly(true);
+    gbKoszty = named<QGroupBox>("gbKoszty", QStringLiteral("Koszty"), p);
+    rbKosztUmowna = named<QRadioButton>("rbKosztUmowna", QStringLiteral("Umowna"), gbKoszty);
+    seKosztKwota = named<TNumberEdit>("seKosztKwota", QStringLiteral("#,##0.00"), 2, 999999.0, gbKoszty);
+    rgKosztTaryfa = named<QRadioButton>("rgKosztTaryfa", QStringLiteral("Wg taryfy"), gbKoszty);
+    ceKosztTaryfa = text("ceKosztTaryfa", 45, gbKoszty);
+    ceKosztTaryfa->setReadOnly(true);
+
+    ceRabat = named<TNumberEdit>("ceRabat", QStringLiteral(",0.00 %"), 2, 100.0, p);
+    lblRabat = caption(QStringLiteral("Rabat:"), ceRabat, p);
+    lblStawkaRazem = named<QLabel>("lblStawkaRazem", QStringLiteral("0,00"), p);
+    lblStawkaRazem->setAlignment(Qt::AlignRight | Qt::AlignVCenter);
+    lblStawkaRazem->setMinimumWidth(100);
+    lblStawkaRazem->setStyleSheet(QStringLiteral("font-weight: bold;"));
+    lblStawkaRazemOpis = caption(QStringLiteral("Stawka razem:"), nullptr, p);
+    ceOplataSkarbowa = amount("ceOplataSkarbowa", p);
+    lblOplataSkarbowa = caption(QStringLiteral("Opł.skarbowa"), ceOplataSkarbowa, p);
+
+    edPojazd = text("edPojazd", 15, p);
+    lblPojazd = caption(QStringLiteral("Pojazd"), edPojazd, p);
+    edNaczepa = text("edNaczepa", 15, p);
+    lblNaczepa = caption(QStringLiteral("Naczepa"), edNaczepa, p);
+    ceKierowca = text("ceKierowca", 45, p);
+    lblKierowca = caption(QStringLiteral("Kierowca"), ceKierowca, p);
+    acKierowca = addPickerButton(ceKierowca, QStringLiteral("acKierowca"));
+
+    seDokWZ = wholeNumber("seDokWZ", 99999, p);
+    lblDokWZ = caption(QStringLiteral("Numer WZ:"), seDokWZ, p);
+    edNrKarty = wholeNumber("edNrKarty", 99999, p);
+    lblNrKarty = caption(QStringLiteral("Numer karty:"), edNrKarty, p);
+    edNrListu = wholeNumber("edNrListu", 99999, p);
+    lblNrListu = caption(QStringLiteral("Numer listu:"), edNrListu, p);
+    memOpisDod = named<QPlainTextEdit>("memOpisDod", p);
+    memOpisDod->setTabChangesFocus(true);
+    memOpisDod->setMaximumHeight(60);
+    lblOpisDod = caption(QStringLiteral("Dodatkowy opis:"), memOpisDod, p);
+    edTekstStaly = text("edTekstStaly", 9, p);
+    edTekstStaly->setEnabled(false);
+    lblTekstStaly = caption(QStringLiteral("Stały tekst:"), edTekstStaly, p);
+
+    cbWspolnik = named<QComboBox>("cbWspolnik", p);
+    chslubice = named<QCheckBox>("chslubice", QString(), p);
+    for (QWidget *hidden : std::initializer_list<QWidget *>{
+             ceOplataSkarbowa, lblOplataSkarbowa, cbWspolnik, chslubice})
+        hidden->hide();
+}
+
+void TfrmAddEditZlecenia_Przych::buildLayout()
+{
+    auto *stawka = new QGridLayout(gbStawka);
+    stawka->addWidget(rbStawkaUmowna, 0, 0);
+    stawka->addWidget(seKwota, 0, 1);
+    stawka->addWidget(rbStawkaTaryfowa, 1, 0);
+    stawka->addWidget(ceTaryfa, 1, 1);
+    stawka->setColumnStretch(1, 1);
+    auto *koszty = new QGridLayout(gbKoszty);
+    koszty->addWidget(rbKosztUmowna, 0, 0);
+    koszty->addWidget(seKosztKwota, 0, 1);
+    koszty->addWidget(rgKosztTaryfa, 1, 0);
+    koszty->addWidget(ceKosztTaryfa, 1, 1);
+    koszty->setColumnStretch(1, 1);
+
+    auto *grid = new QGridLayout(pnlClient);
+    grid->setContentsMargins(12, 10, 12, 10);
+    grid->setHorizontalSpacing(8);
+    grid->setVerticalSpacing(5);
+    int row = 0;
+    grid->addWidget(lblNumerKolejny, row, 0);
+    grid->addWidget(seNumerKolejny, row, 1);
+    grid->addWidget(lblPrzeladunek, row, 2);
+    grid->addWidget(edPrzeladunek, row, 3);
+    grid->addWidget(lblKlient, ++row, 0);
+    grid->addWidget(cbKlient, row, 1, 1, 4);
+    grid->addWidget(btnKlientMore, row, 5);
+    grid->addWidget(cbPrzewoznikObcy, ++row, 0);
+    grid->addWidget(cbPrzewoznik, row, 1, 1, 4);
+    grid->addWidget(BitBtn1, row, 5);
+
+    auto *route = new QHBoxLayout;
+    for (const auto &[label, city] : {std::pair{lblMiastoOd, cbMiastoOd},
+                                      {lblMiastoPrzez, cbMiastoPrzez}, {lblMiastoDo, cbMiastoDo}}) {
+        route->addWidget(label);
+        route->addWidget(city, 1);
+    }
+    grid->addLayout(route, ++row, 0, 1, 6);
+    grid->addWidget(gbZaladunek, ++row, 0, 1, 3);
+    grid->addWidget(gbRozladunek, row, 3, 1, 3);
+
+    const int quantitiesRow = ++row;
+    grid->addWidget(lblOdleglosc, row, 0);
+    grid->addWidget(seOdleglosc, row, 1);
+    const struct
+    {
+        QLabel *label;
+        QWidget *quantity;
+        QWidget *rate;
+    } priced[] = {{lblKMLadownych, seKMLadownych, edStawkaKMLadowny},
+                  {lblKMPustych, seKMPustych, edStawkaKMPusty},
+                  {lblIloscGodzin, seIloscGodzin, edStawkaIloscGodzin},
+                  {lblIloscPalet, seIloscPalet, edStawkaIloscPalet}};
+    for (const auto &line : priced) {
+        grid->addWidget(line.label, ++row, 0);
+        grid->addWidget(line.quantity, row, 1);
+        grid->addWidget(caption(QStringLiteral("Stawka"), line.rate, pnlClient), row, 2);
+        grid->addWidget(line.rate, row, 3);
+    }
+    grid->addWidget(gbStawka, quantitiesRow, 4, 3, 2);
+    grid->addWidget(gbKoszty, quantitiesRow + 3, 4, 2, 2);
+    grid->addWidget(lblRabat, ++row, 0);
+    grid->addWidget(ceRabat, row, 1);
+    grid->addWidget(lblStawkaRazemOpis, row, 2);
+    grid->addWidget(lblStawkaRazem, row, 3);
+    grid->addWidget(lblOplataSkarbowa, row, 4);
+    grid->addWidget(ceOplataSkarbowa, row, 5);
+
+    grid->addWidget(lblPojazd, ++row, 0);
+    grid->addWidget(edPojazd, row, 1);
+    grid->addWidget(lblNaczepa, row, 2);
+    grid->addWidget(edNaczepa, row, 3);
+    grid->addWidget(lblKierowca, ++row, 0);
+    grid->addWidget(ceKierowca, row, 1, 1, 3);
+    grid->addWidget(lblDokWZ, ++row, 0);
+    grid->addWidget(seDokWZ, row, 1);
+    grid->addWidget(lblNrKarty, row, 2);
+    grid->addWidget(edNrKarty, row, 3);
+    grid->addWidget(lblNrListu, row, 4);
+    grid->addWidget(edNrListu, row, 5);
+    grid->addWidget(lblOpisDod, ++row, 0);
+    grid->addWidget(memOpisDod, row, 1, 1, 5);
+    grid->addWidget(lblTekstStaly, ++row, 0);
+    grid->addWidget(edTekstStaly, row, 1);
+    grid->addWidget(cbWspolnik, row, 2);
+    grid->addWidget(chslubice, row, 3);
+    grid->setColumnStretch(1, 1);
+    grid->setColumnStretch(3, 1);
+    grid->setColumnStretch(4, 1);
+    grid->setRowStretch(++row, 1);
+}
