@@ -6,6 +6,7 @@
 
 #include <QCheckBox>
 #include <QComboBox>
+#include <QBoxLayout>
 #include <QGridLayout>
 #include <QGroupBox>
 #include <QLabel>
@@ -220,9 +221,10 @@ void TfrmAddEditZlecenia_Przych::buildLayout()
     grid->addWidget(gbZaladunek, ++row, 0, 1, 3);
     grid->addWidget(gbRozladunek, row, 3, 1, 3);
 
-    const int quantitiesRow = ++row;
-    grid->addWidget(lblOdleglosc, row, 0);
-    grid->addWidget(seOdleglosc, row, 1);
+    // Quantities and their rates on the left, the two pricing groups beside.
+    auto *quantities = new QGridLayout;
+    quantities->addWidget(lblOdleglosc, 0, 0);
+    quantities->addWidget(seOdleglosc, 0, 1);
     const struct
     {
         QLabel *label;
@@ -232,14 +234,23 @@ void TfrmAddEditZlecenia_Przych::buildLayout()
                   {lblKMPustych, seKMPustych, edStawkaKMPusty},
                   {lblIloscGodzin, seIloscGodzin, edStawkaIloscGodzin},
                   {lblIloscPalet, seIloscPalet, edStawkaIloscPalet}};
-    for (const auto &line : priced) {
-        grid->addWidget(line.label, ++row, 0);
-        grid->addWidget(line.quantity, row, 1);
-        grid->addWidget(caption(QStringLiteral("Stawka"), line.rate, pnlClient), row, 2);
-        grid->addWidget(line.rate, row, 3);
+    int line = 0;
+    for (const auto &p : priced) {
+        quantities->addWidget(p.label, ++line, 0);
+        quantities->addWidget(p.quantity, line, 1);
+        quantities->addWidget(caption(QStringLiteral("Stawka"), p.rate, pnlClient), line, 2);
+        quantities->addWidget(p.rate, line, 3);
     }
-    grid->addWidget(gbStawka, quantitiesRow, 4, 3, 2);
-    grid->addWidget(gbKoszty, quantitiesRow + 3, 4, 2, 2);
+    quantities->setColumnStretch(1, 1);
+    quantities->setColumnStretch(3, 1);
+    auto *pricing = new QVBoxLayout;
+    pricing->addWidget(gbStawka);
+    pricing->addWidget(gbKoszty);
+    pricing->addStretch(1);
+    auto *money = new QHBoxLayout;
+    money->addLayout(quantities, 3);
+    money->addLayout(pricing, 2);
+    grid->addLayout(money, ++row, 0, 1, 6);
     grid->addWidget(lblRabat, ++row, 0);
     grid->addWidget(ceRabat, row, 1);
     grid->addWidget(lblStawkaRazemOpis, row, 2);

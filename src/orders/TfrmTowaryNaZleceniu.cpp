@@ -59,7 +59,7 @@ TfrmTowaryNaZleceniu::TfrmTowaryNaZleceniu(QWidget *owner, int orderKey)
     connect(frameListView1->BitBtn6, &TBitBtn::clicked, acDelete, &QAction::trigger);
     connect(frameListView1->BitBtn7, &TBitBtn::clicked, frameListView1, &TframeListView::Refresh);
     connect(list, &TListView::dblClick, acPopraw, &QAction::trigger);
-    resize(680, 420);
+    resize(820, 420);
 }
 
 void TfrmTowaryNaZleceniu::FormCreate()
