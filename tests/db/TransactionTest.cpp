@@ -16,23 +16,13 @@ void insertUnit(Connection &connection, const QString &name)
     st.exec();
 }
 
-int unitsSeenFromAnotherConnection(const QString &path)
-{
-    Connection other;
-    other.open(path);
-    Statement st(other);
-    st.add(QStringLiteral("SELECT COUNT(*) FROM MIARY"));
-    st.exec();
-    return st.integer(0);
-}
-
 } // namespace
 
 TEST(Transaction, StatementsOutsideATransactionCommitAsTheyRun)
 {
     TestDatabase db;
     insertUnit(db.connection(), QStringLiteral("kilogram"));
-    EXPECT_EQ(unitsSeenFromAnotherConnection(db.path()), 1);
+    EXPECT_EQ(db.countSeenElsewhere(QStringLiteral("MIARY")), 1);
 }
 
 TEST(Transaction, ScopeRollsBackUnlessCommitted)
@@ -43,7 +33,7 @@ TEST(Transaction, ScopeRollsBackUnlessCommitted)
         TransactionScope scope(transaction);
         insertUnit(db.connection(), QStringLiteral("tona"));
         EXPECT_TRUE(transaction.InTransaction());
-        EXPECT_EQ(unitsSeenFromAnotherConnection(db.path()), 0);
+        EXPECT_EQ(db.countSeenElsewhere(QStringLiteral("MIARY")), 0);
     }
     EXPECT_FALSE(transaction.InTransaction());
     EXPECT_EQ(db.count(QStringLiteral("MIARY")), 0);
@@ -54,7 +44,7 @@ TEST(Transaction, ScopeRollsBackUnlessCommitted)
         insertUnit(db.connection(), QStringLiteral("paleta"));
         scope.commit();
     }
-    EXPECT_EQ(unitsSeenFromAnotherConnection(db.path()), 2);
+    EXPECT_EQ(db.countSeenElsewhere(QStringLiteral("MIARY")), 2);
 }
 
 TEST(Transaction, AnExceptionInsideTheScopeLeavesNothingBehind)

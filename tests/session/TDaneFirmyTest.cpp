@@ -21,16 +21,6 @@ protected:
     SessionContext context{7, &db.connection(), &transaction};
 };
 
-int historyRowsSeenElsewhere(const QString &path)
-{
-    Connection other;
-    other.open(path);
-    Statement st(other);
-    st.add(QStringLiteral("SELECT COUNT(*) FROM HISTORY"));
-    st.exec();
-    return st.integer(0);
-}
-
 } // namespace
 
 TEST_F(TDaneFirmyTest, LoadsTheCompanyDataOnCreation)
@@ -80,7 +70,7 @@ TEST_F(TDaneFirmyTest, WriteHistoryStoresOneCommittedRow)
     const double before = DateTime::now().days();
     EXPECT_TRUE(firma.WriteHistory(QVariantList{12, QStringLiteral("Gdańsk"), 2.5}, 3, 17));
     EXPECT_FALSE(transaction.InTransaction());
-    EXPECT_EQ(historyRowsSeenElsewhere(db.path()), 1);
+    EXPECT_EQ(db.countSeenElsewhere(QStringLiteral("HISTORY")), 1);
 
     Statement st(db.connection());
     st.add(QStringLiteral("SELECT * FROM HISTORY"));

@@ -68,3 +68,15 @@ int TestDatabase::count(const QString &table, const QString &where)
         sql += QStringLiteral(" WHERE ") + where;
     return scalar(sql).toInt();
 }
+
+int TestDatabase::countSeenElsewhere(const QString &table)
+{
+    Connection other;
+    other.open(m_path);
+    QSqlQuery query(other.database());
+    if (!query.exec(QStringLiteral("SELECT COUNT(*) FROM ") + table) || !query.next()) {
+        ADD_FAILURE() << query.lastError().text().toStdString();
+        return -1;
+    }
+    return query.value(0).toInt();
+}

@@ -28,6 +28,9 @@ public:
     // The first column of the first row of a query, as text.
     QString scalar(const QString &sql);
     int count(const QString &table, const QString &where = QString());
+    // The same count through a second connection: what other workstations
+    // see, i.e. only committed rows.
+    int countSeenElsewhere(const QString &table);
 
 private:
     QTemporaryDir m_dir;

@@ -5,5 +5,7 @@
 void registerShots(ShotBook &book)
 {
     addFrameworkShots(book);
+    addReportShots(book);
+    addPricingShots(book);
     addOrdersShots(book);
 }

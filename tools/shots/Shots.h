@@ -8,5 +8,11 @@ void registerShots(ShotBook &book);
 // The framework's own forms.
 void addFrameworkShots(ShotBook &book);
 
+// A sample page of the report engine.
+void addReportShots(ShotBook &book);
+
+// Price lists, tariffs, cities and distances.
+void addPricingShots(ShotBook &book);
+
 // The order editor, goods, places and the template date.
 void addOrdersShots(ShotBook &book);

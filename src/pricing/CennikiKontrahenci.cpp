@@ -1,0 +1,101 @@
+#include "CennikiKontrahenci.h"
+
+#include "DatabaseGuard.h"
+#include "LVFrame.h"
+#include "PriceListCombo.h"
+#include "SessionContext.h"
+#include "Statement.h"
+#include "TBitBtn.h"
+#include "TListView.h"
+
+#include <QBoxLayout>
+#include <QComboBox>
+#include <QLabel>
+
+namespace {
+
+QString clientsOf(int group)
+{
+    if (group == 0)
+        return QStringLiteral("select * from kontrahenci where id_kontrahenta not in (select "
+                              "IDKONTRAHENT from CENNIKI_KRAJ_KONTRAHENCI)");
+    return QStringLiteral("select * from KONTRAHENCI WHERE id_kontrahenta in (select "
+                          "IDKONTRAHENT from CENNIKI_KRAJ_KONTRAHENCI WHERE IDGRUPY=")
+        + QString::number(group) + u')';
+}
+
+} // namespace
+
+TfrmCennikiKontrahenci::TfrmCennikiKontrahenci(QWidget *owner) : TfrmRODefault(owner)
+{
+    setObjectName(QStringLiteral("frmCennikiKontrahenci"));
+    setWindowTitle(QStringLiteral("Cennik"));
+    setSizeGripEnabled(true);
+    lblHeader->setText(QStringLiteral("Cennik"));
+    lblHeaderDescription->setText(QStringLiteral("Edycja cennika"));
+    btnOk->hide();
+    btnCancel->setText(QStringLiteral("&Zamknij"));
+
+    lblCennik = new QLabel(QStringLiteral("Cennik:"), pnlClient);
+    cbCennik = new QComboBox(pnlClient);
+    cbCennik->setObjectName(QStringLiteral("cbCennik"));
+    cbCennik->setMinimumWidth(240);
+    lblCennik->setBuddy(cbCennik);
+    frameListView1 = new TframeListView(this, pnlClient, QStringLiteral("frameListView1"));
+    TListView *list = frameListView1->lvMain;
+    list->addColumn(QStringLiteral("ID"), 70);
+    list->addColumn(QStringLiteral("Nazwa"), 220);
+    list->addColumn(QStringLiteral("Adres"), 160);
+    list->addColumn(QStringLiteral("Kod"), 60);
+    list->addColumn(QStringLiteral("Miejscowość"), 120);
+    for (TBitBtn *button : {frameListView1->BitBtn5, frameListView1->BitBtn4,
+                            frameListView1->BitBtn6})
+        button->hide();
+    connect(frameListView1->BitBtn7, &QPushButton::clicked, frameListView1,
+            &TframeListView::Refresh);
+
+    auto *top = new QHBoxLayout;
+    top->addWidget(lblCennik);
+    top->addWidget(cbCennik);
+    top->addStretch(1);
+    auto *layout = new QVBoxLayout(pnlClient);
+    layout->setContentsMargins(4, 4, 4, 4);
+    layout->addLayout(top);
+    layout->addWidget(frameListView1, 1);
+    resize(700, 460);
+}
+
+void TfrmCennikiKontrahenci::FormCreate()
+{
+    TfrmRODefault::FormCreate();
+    frameListView1->setROSetUserID(session().UserID);
+    fillPriceListCombo(cbCennik, session().Database);
+    LoadLVData();
+    connect(cbCennik, &QComboBox::currentIndexChanged, this,
+            &TfrmCennikiKontrahenci::LoadLVData);
+}
+
+void TfrmCennikiKontrahenci::LoadLVData()
+{
+    TListView *list = frameListView1->lvMain;
+    list->beginUpdate();
+    list->clear();
+    if (Connection *database = session().Database) {
+        runReported(QStringLiteral("Nie można odczytać kontrahentów"), [&] {
+            Statement st(*database);
+            st.setUniDirectional(true);
+            st.add(clientsOf(selectedPriceList(cbCennik)));
+            st.exec();
+            const int key = st.columnIndex(QStringLiteral("ID_KONTRAHENTA"));
+            const int name = st.columnIndex(QStringLiteral("NAZWA"));
+            const int address = st.columnIndex(QStringLiteral("ADRES"));
+            const int postcode = st.columnIndex(QStringLiteral("KOD"));
+            const int town = st.columnIndex(QStringLiteral("MIEJSCOWOSC"));
+            for (; !st.atEnd(); st.next())
+                list->addItem(st.string(name),
+                              {st.string(address), st.string(postcode), st.string(town)},
+                              st.integer(key));
+        });
+    }
+    list->endUpdate();
+}

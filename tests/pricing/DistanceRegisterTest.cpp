@@ -1,0 +1,161 @@
+#include "AddEditMiasta.h"
+#include "LVFrame.h"
+#include "LimitedSpinEdits.h"
+#include "Miasta.h"
+#include "PricingData.h"
+#include "ScriptedMessages.h"
+#include "ScriptedModalRunner.h"
+#include "SessionContext.h"
+#include "TBitBtn.h"
+#include "TListView.h"
+#include "TestDatabase.h"
+#include "Transaction.h"
+
+#include <QComboBox>
+#include <QLineEdit>
+
+#include <gtest/gtest.h>
+
+namespace {
+
+using namespace PricingData;
+
+class DistanceRegister : public testing::Test
+{
+protected:
+    void SetUp() override
+    {
+        setSession(1, &db.connection(), &transaction);
+        Connection &c = db.connection();
+        krakow = addCity(c, QStringLiteral("Kraków"), QStringLiteral("30-001"));
+        lodz = addCity(c, QStringLiteral("Łódź"), QStringLiteral("90-001"));
+        gdansk = addCity(c, QStringLiteral("Gdańsk"), QStringLiteral("80-001"));
+        toKrakow = addRoute(c, lodz, 0, krakow, 270);
+        toGdansk = addRoute(c, lodz, 0, gdansk, 340);
+        addRoute(c, krakow, lodz, gdansk, 610);
+        setting(QStringLiteral("MiastoDomowe"), QStringLiteral("'S', NULL, 'ŁÓDŹ'"));
+        db.exec(QStringLiteral("INSERT INTO FORMS (ID_FORMATKI, NAZWA) VALUES (41, 'TfrmMiasta')"));
+    }
+    void TearDown() override { setSession(0, nullptr, nullptr); }
+
+    void setting(const QString &name, const QString &values)
+    {
+        db.exec(QStringLiteral("INSERT INTO KONFIGURACJA (POLE, TYP, VALUE_INT, VALUE_STRING) "
+                               "VALUES ('%1', %2)")
+                    .arg(name, values));
+    }
+    std::unique_ptr<TfrmMiasta> open() { return TfrmRODefault::create<TfrmMiasta>(nullptr); }
+    static TListView &list(TfrmMiasta &form) { return *form.frameListView1->lvMain; }
+    static QStringList destinations(TfrmMiasta &form)
+    {
+        QStringList result;
+        for (int row = 0; row < list(form).itemCount(); ++row)
+            result << list(form).subItem(row, 0);
+        result.sort();
+        return result;
+    }
+    void choose(TfrmMiasta &form, const QString &city)
+    {
+        form.CBMiasta->setCurrentIndex(form.CBMiasta->findText(city));
+    }
+
+    TestDatabase db;
+    Transaction transaction{db.connection()};
+    int krakow = 0, lodz = 0, gdansk = 0, toKrakow = 0, toGdansk = 0;
+};
+
+} // namespace
+
+TEST_F(DistanceRegister, OpensOnTheHomeCityWhateverItsLetterCase)
+{
+    auto form = open();
+    EXPECT_EQ(form->windowTitle(), "Miasta");
+    EXPECT_EQ(form->CBMiasta->itemText(0), "---");
+    EXPECT_EQ(form->CBMiasta->count(), 4);
+    EXPECT_EQ(form->CBMiasta->currentText(), "Łódź");
+    EXPECT_EQ(form->selectedCity(), lodz);
+    EXPECT_EQ(destinations(*form), (QStringList{"Gdańsk", "Kraków"}));
+    const int row = list(*form).findByKey(toKrakow);
+    EXPECT_EQ(list(*form).items().texts(row),
+              (QStringList{QString::number(krakow), "Kraków", "30-001", "270"}));
+}
+
+TEST_F(DistanceRegister, OnlyEditAndDeleteRemainOfTheFramesButtons)
+{
+    auto form = open();
+    TframeListView &frame = *form->frameListView1;
+    for (TBitBtn *hidden : {frame.BitBtn1, frame.BitBtn2, frame.BitBtn5, frame.BitBtn7})
+        EXPECT_FALSE(hidden->isVisibleTo(form.get())) << hidden->objectName().toStdString();
+    EXPECT_TRUE(frame.BitBtn4->isVisibleTo(form.get()));
+    EXPECT_TRUE(frame.BitBtn6->isVisibleTo(form.get()));
+}
+
+TEST_F(DistanceRegister, NoCityListsNoRoutesAndARouteIsListedUnderItsStartOnly)
+{
+    auto form = open();
+    choose(*form, QStringLiteral("---"));
+    EXPECT_EQ(list(*form).itemCount(), 0);
+    choose(*form, QStringLiteral("Gdańsk"));
+    EXPECT_EQ(list(*form).itemCount(), 0);
+    choose(*form, QStringLiteral("Kraków"));
+    EXPECT_EQ(destinations(*form), QStringList{"Gdańsk"});
+}
+
+TEST_F(DistanceRegister, EditingChangesOnlyTheDistance)
+{
+    auto form = open();
+    const int row = list(*form).findByKey(toGdansk);
+    list(*form).setSelectedIndex(row);
+    scriptedModalRunner().expect<TfrmAddEditMiasta>([](TfrmAddEditMiasta &e) {
+        EXPECT_EQ(e.edMiastoOd->text(), "Łódź");
+        EXPECT_EQ(e.edMiastoDo->text(), "Gdańsk");
+        EXPECT_TRUE(e.edMiastoOd->isReadOnly());
+        EXPECT_EQ(e.edOdleglosc->value(), 340);
+        e.edOdleglosc->setValue(345);
+        e.btnOk->click();
+        return e.result();
+    });
+    form->frameListView1->BitBtn4->click();
+    EXPECT_EQ(db.scalar(QStringLiteral("SELECT ODLEGLOSC || '/' || IDMIASTAOD || '/' || IDMIASTADO "
+                                       "FROM ODLEGLOSCI WHERE ID_ODLEGLOSCI = %1")
+                            .arg(toGdansk)),
+              QStringLiteral("345/%1/%2").arg(lodz).arg(gdansk));
+    EXPECT_EQ(list(*form).selectedIndex(), row);
+    EXPECT_EQ(list(*form).text(row, 3), "345");
+}
+
+TEST_F(DistanceRegister, DeletingWithTheMonitorFlagWritesTheHistory)
+{
+    setting(QStringLiteral("SystemMonitorDelete"), QStringLiteral("'B', 1, NULL"));
+    auto form = open();
+    list(*form).setSelectedIndex(list(*form).findByKey(toKrakow));
+    scriptedMessages().expect(MessageService::No);
+    form->frameListView1->BitBtn6->click();
+    EXPECT_EQ(db.count(QStringLiteral("ODLEGLOSCI")), 3);
+
+    scriptedMessages().expect(MessageService::Yes);
+    form->frameListView1->BitBtn6->click();
+    const auto &asked = scriptedMessages().shown().back();
+    EXPECT_EQ(asked.caption, "Usuwanie");
+    EXPECT_EQ(asked.text, "Usunąć wybraną pozycję");
+    EXPECT_EQ(db.count(QStringLiteral("ODLEGLOSCI"),
+                       QStringLiteral("ID_ODLEGLOSCI = %1").arg(toKrakow)),
+              0);
+    EXPECT_EQ(destinations(*form), QStringList{"Gdańsk"});
+    EXPECT_EQ(db.count(QStringLiteral("HISTORY"),
+                       QStringLiteral("OPERACJA = 3 AND GRUPA = 41 AND USERID = 1 AND "
+                                      "HISTORY_PARAMS = '%1'")
+                           .arg(toKrakow)),
+              1);
+}
+
+TEST_F(DistanceRegister, DeletingWithoutTheMonitorFlagWritesNoHistory)
+{
+    setting(QStringLiteral("SystemMonitorDelete"), QStringLiteral("'B', 0, NULL"));
+    auto form = open();
+    list(*form).setSelectedIndex(list(*form).findByKey(toKrakow));
+    scriptedMessages().expect(MessageService::Yes);
+    form->frameListView1->BitBtn6->click();
+    EXPECT_EQ(db.count(QStringLiteral("ODLEGLOSCI")), 2);
+    EXPECT_EQ(db.count(QStringLiteral("HISTORY")), 0);
+}

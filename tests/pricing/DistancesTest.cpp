@@ -1,0 +1,63 @@
+#include "Distances.h"
+#include "PricingData.h"
+#include "TestDatabase.h"
+
+#include <gtest/gtest.h>
+
+namespace {
+
+using namespace PricingData;
+
+class DistancesTest : public testing::Test
+{
+protected:
+    void SetUp() override
+    {
+        Connection &c = db.connection();
+        lodz = addCity(c, QStringLiteral("Łódź"));
+        warszawa = addCity(c, QStringLiteral("Warszawa"));
+        krakow = addCity(c, QStringLiteral("Kraków"));
+        addRoute(c, lodz, 0, warszawa, 135);
+        addRoute(c, lodz, krakow, warszawa, 560);
+    }
+
+    TestDatabase db;
+    int lodz = 0, warszawa = 0, krakow = 0;
+};
+
+} // namespace
+
+TEST_F(DistancesTest, ARouteIsFoundBothWaysWithTheSameViaCity)
+{
+    EXPECT_EQ(Distances::lookup(db.connection(), lodz, 0, warszawa), 135);
+    EXPECT_EQ(Distances::lookup(db.connection(), warszawa, 0, lodz), 135);
+    EXPECT_EQ(Distances::lookup(db.connection(), warszawa, krakow, lodz), 560);
+}
+
+TEST_F(DistancesTest, AnotherViaCityOrAnUnknownRouteFindsNothing)
+{
+    EXPECT_EQ(Distances::lookup(db.connection(), lodz, warszawa, krakow), std::nullopt);
+    EXPECT_EQ(Distances::lookup(db.connection(), krakow, 0, lodz), std::nullopt);
+}
+
+TEST_F(DistancesTest, RememberStoresTheRouteAsGiven)
+{
+    Distances::remember(db.connection(), krakow, 0, lodz, 270);
+    EXPECT_EQ(db.count(QStringLiteral("ODLEGLOSCI"),
+                       QStringLiteral("IDMIASTAOD = %1 AND IDMIASTAVIA = 0 AND IDMIASTADO = %2 "
+                                      "AND ODLEGLOSC = 270")
+                           .arg(krakow)
+                           .arg(lodz)),
+              1);
+    EXPECT_EQ(Distances::lookup(db.connection(), lodz, 0, krakow), 270);
+}
+
+TEST_F(DistancesTest, LearnStoresOnlyNewRoutesWithADistance)
+{
+    EXPECT_FALSE(Distances::learn(db.connection(), warszawa, 0, lodz, 140));   // known reversed
+    EXPECT_FALSE(Distances::learn(db.connection(), krakow, 0, lodz, 0));       // no distance
+    EXPECT_TRUE(Distances::learn(db.connection(), krakow, 0, lodz, 270));
+    EXPECT_FALSE(Distances::learn(db.connection(), lodz, 0, krakow, 275));
+    EXPECT_EQ(db.count(QStringLiteral("ODLEGLOSCI")), 3);
+    EXPECT_EQ(Distances::lookup(db.connection(), warszawa, 0, lodz), 135);
+}

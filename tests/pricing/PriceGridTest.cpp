@@ -1,0 +1,242 @@
+#include "AddEditCenniki.h"
+#include "CennikMenu.h"
+#include "CennikWierszeKolumny.h"
+#include "Cenniki.h"
+#include "CennikiKontrahenci.h"
+#include "LVFrame.h"
+#include "LimitedSpinEdits.h"
+#include "PricingData.h"
+#include "ScriptedMessages.h"
+#include "ScriptedModalRunner.h"
+#include "SessionContext.h"
+#include "TBitBtn.h"
+#include "TListView.h"
+#include "TestDatabase.h"
+
+#include <QComboBox>
+#include <QLabel>
+#include <QTableWidget>
+#include <QTest>
+
+#include <gtest/gtest.h>
+
+namespace {
+
+using namespace PricingData;
+
+class PriceGrid : public testing::Test
+{
+protected:
+    void SetUp() override { setSession(1, &db.connection(), nullptr); }
+    void TearDown() override { setSession(0, nullptr, nullptr); }
+
+    // Two kilometre and two kilogram ranges, the main price list with one
+    // cell, one open and one blocked group with a cell each.
+    void seedGrid()
+    {
+        Connection &c = db.connection();
+        near = addKilometreRange(c, 0, 100);
+        far = addKilometreRange(c, 101, 300);
+        light = addKilogramRange(c, 0, 1000);
+        heavy = addKilogramRange(c, 1001, 24000);
+        open = addGroup(c, QStringLiteral("Klienci kluczowi"));
+        blocked = addGroup(c, QStringLiteral("Stary cennik"), true);
+        addCell(c, 0, far, heavy, 1234.5);
+        addCell(c, open, near, light, 99.0);
+        addCell(c, blocked, near, light, 77.0);
+    }
+
+    std::unique_ptr<TfrmCenniki> openGrid()
+    {
+        return TfrmRODefault::create<TfrmCenniki>(nullptr);
+    }
+
+    // Double-clicks a grid cell (column and row counted with the fixed
+    // ones) and answers the amount dialog with the amount.
+    void editCell(TfrmCenniki &grid, int column, int row, double amount,
+                  double *shownAmount = nullptr)
+    {
+        scriptedModalRunner().expect<TfrmAddEditCenniki>([=](TfrmAddEditCenniki &d) {
+            if (shownAmount)
+                *shownAmount = d.amount();
+            d.edStawka->setValue(amount);
+            d.btnOk->click();
+            return d.result();
+        });
+        grid.sgCennik->setCurrentCell(row - 1, column - 1);
+        grid.sgCennikDblClick();
+        EXPECT_TRUE(scriptedModalRunner().allRun());
+    }
+
+    int cells(const QString &where)
+    {
+        return db.count(QStringLiteral("CENNIKI_KRAJ"), where);
+    }
+
+    TestDatabase db;
+    int near = 0, far = 0, light = 0, heavy = 0, open = 0, blocked = 0;
+};
+
+const QString Nbsp = QStringLiteral("\u00a0");
+
+} // namespace
+
+TEST_F(PriceGrid, TheMenuAsksForRangesWhileThereAreFewerThanTwo)
+{
+    auto menu = TfrmRODefault::create<TfrmCennikMenu>(nullptr);
+    EXPECT_EQ(menu->windowTitle(), "Cennik");
+    EXPECT_EQ(menu->lblHeader->text(), "Menu cennik");
+    EXPECT_FALSE(menu->BitBtn2->isVisibleTo(menu.get()));
+
+    scriptedMessages().expect(MessageService::No);
+    menu->BitBtn1->click();
+    const auto &question = scriptedMessages().shown().back();
+    EXPECT_EQ(question.caption, "Cenniki");
+    EXPECT_EQ(question.text, "Musisz zdefiniować najpierw przedziały kilometrowe i wagowe. "
+                             "Chcesz to zrobić teraz?");
+    EXPECT_EQ(question.icon, MessageService::Icon::Question);
+    EXPECT_TRUE(scriptedModalRunner().ran().empty());
+
+    addKilometreRange(db.connection(), 0, 100);
+    scriptedMessages().expect(MessageService::Yes);
+    scriptedModalRunner().expect<TfrmCennikWierszeKolumny>([](TfrmCennikWierszeKolumny &) {
+        return 2;
+    });
+    menu->BitBtn1->click();
+    EXPECT_TRUE(scriptedModalRunner().allRun());
+}
+
+TEST_F(PriceGrid, TheMenuCountsBothAxesTogether)
+{
+    addKilometreRange(db.connection(), 0, 100);
+    addKilometreRange(db.connection(), 101, 200);
+    auto menu = TfrmRODefault::create<TfrmCennikMenu>(nullptr);
+    scriptedModalRunner().expect<TfrmCenniki>([](TfrmCenniki &grid) {
+        EXPECT_EQ(grid.RowCount(), 3);
+        EXPECT_EQ(grid.ColCount(), 1);
+        return 2;
+    });
+    menu->BitBtn1->click();
+    EXPECT_TRUE(scriptedModalRunner().allRun());
+    EXPECT_TRUE(scriptedMessages().shown().empty());
+}
+
+TEST_F(PriceGrid, RangesHeadTheRowsAndColumnsAndCellsShowTheMainPriceList)
+{
+    seedGrid();
+    auto grid = openGrid();
+    EXPECT_EQ(grid->lblHeaderDescription->text(), "Edycja cennika");
+    ASSERT_EQ(grid->RowCount(), 3);
+    ASSERT_EQ(grid->ColCount(), 3);
+    EXPECT_EQ(grid->Cells(0, 1), "0-100");
+    EXPECT_EQ(grid->Cells(0, 2), "101-300");
+    EXPECT_EQ(grid->Cells(1, 0), "0-1000");
+    EXPECT_EQ(grid->Cells(2, 0), "1001-24000");
+    EXPECT_EQ(grid->Cells(2, 2), "1" + Nbsp + "234,50");
+    EXPECT_EQ(grid->Cells(1, 1), "");
+}
+
+TEST_F(PriceGrid, ABlockedGroupIsNotOfferedButKeepsItsCells)
+{
+    seedGrid();
+    auto grid = openGrid();
+    ASSERT_EQ(grid->cbCennik->count(), 2);
+    EXPECT_EQ(grid->cbCennik->itemText(0), " --- GŁÓWNY ---");
+    EXPECT_EQ(grid->cbCennik->currentIndex(), 0);
+    EXPECT_EQ(grid->cbCennik->itemText(1), "Klienci kluczowi");
+    EXPECT_EQ(grid->cbCennik->findText(QStringLiteral("Stary cennik")), -1);
+    EXPECT_EQ(cells(QStringLiteral("GRUPA = %1").arg(blocked)), 1);
+
+    grid->cbCennik->setCurrentIndex(1);
+    EXPECT_EQ(grid->Cells(1, 1), "99,00");
+    EXPECT_EQ(grid->Cells(2, 2), "");
+}
+
+TEST_F(PriceGrid, ZeroInAnEmptyCellStoresNothingAndAPositiveAmountStoresIt)
+{
+    seedGrid();
+    auto grid = openGrid();
+    double shown = -1.0;
+    editCell(*grid, 1, 2, 0.0, &shown);
+    EXPECT_DOUBLE_EQ(shown, 0.0);
+    EXPECT_EQ(grid->windowTitle(), "1,2");
+    EXPECT_EQ(cells(QStringLiteral("GRUPA = 0")), 1);
+
+    editCell(*grid, 1, 2, 450.0);
+    EXPECT_EQ(cells(QStringLiteral("GRUPA = 0 AND KILOMETRY = %1 AND KILOGRAMY = %2 AND "
+                                   "KWOTA = 450")
+                        .arg(far)
+                        .arg(light)),
+              1);
+    EXPECT_EQ(grid->Cells(1, 2), "450,00");
+}
+
+TEST_F(PriceGrid, AFilledCellIsUpdatedAndZeroOrLessDeletesIt)
+{
+    seedGrid();
+    auto grid = openGrid();
+    grid->cbCennik->setCurrentIndex(1);
+    scriptedModalRunner().expect<TfrmAddEditCenniki>([](TfrmAddEditCenniki &d) {
+        EXPECT_EQ(d.lblKg->text(), "0-1000");
+        EXPECT_EQ(d.lblKm->text(), "0-100");
+        EXPECT_DOUBLE_EQ(d.amount(), 99.0);
+        d.edStawka->setValue(105.5);
+        d.btnOk->click();
+        return d.result();
+    });
+    grid->sgCennik->setCurrentCell(0, 0);
+    grid->sgCennikDblClick();
+    EXPECT_EQ(cells(QStringLiteral("GRUPA = %1 AND KWOTA = 105.5").arg(open)), 1);
+    EXPECT_EQ(grid->Cells(1, 1), "105,50");
+
+    editCell(*grid, 1, 1, -3.0);
+    EXPECT_EQ(cells(QStringLiteral("GRUPA = %1").arg(open)), 0);
+    EXPECT_EQ(grid->Cells(1, 1), "");
+    EXPECT_EQ(cells(QStringLiteral("GRUPA = %1").arg(blocked)), 1);
+}
+
+TEST_F(PriceGrid, CancellingTheAmountChangesNothing)
+{
+    seedGrid();
+    auto grid = openGrid();
+    scriptedModalRunner().expect<TfrmAddEditCenniki>([](TfrmAddEditCenniki &d) {
+        d.edStawka->setValue(0.0);
+        return 2;
+    });
+    grid->sgCennik->setCurrentCell(1, 1);
+    grid->sgCennikDblClick();
+    EXPECT_EQ(cells(QStringLiteral("GRUPA = 0 AND KWOTA = 1234.5")), 1);
+}
+
+TEST_F(PriceGrid, CellsOfADeletedRangeAreSkipped)
+{
+    seedGrid();
+    addCell(db.connection(), 0, 9999, light, 55.0);
+    auto grid = openGrid();
+    for (int column = 1; column < grid->ColCount(); ++column) {
+        for (int row = 1; row < grid->RowCount(); ++row)
+            EXPECT_NE(grid->Cells(column, row), "55,00");
+    }
+}
+
+TEST_F(PriceGrid, TheClientViewerListsClientsOfThePriceList)
+{
+    seedGrid();
+    db.exec(QStringLiteral("INSERT INTO KONTRAHENCI (ID_KONTRAHENTA, NAZWA, ADRES, KOD, "
+                           "MIEJSCOWOSC) VALUES (501, 'Alfa', 'Polna 1', '90-001', 'Łódź')"));
+    db.exec(QStringLiteral("INSERT INTO KONTRAHENCI (ID_KONTRAHENTA, NAZWA) VALUES (502, 'Beta')"));
+    db.exec(QStringLiteral("INSERT INTO CENNIKI_KRAJ_KONTRAHENCI (IDKONTRAHENT, IDGRUPY) "
+                           "VALUES (502, %1)")
+                .arg(open));
+    auto viewer = TfrmRODefault::create<TfrmCennikiKontrahenci>(nullptr);
+    TListView &list = *viewer->frameListView1->lvMain;
+    EXPECT_FALSE(viewer->frameListView1->BitBtn5->isVisibleTo(viewer.get()));
+    ASSERT_EQ(list.itemCount(), 1);
+    EXPECT_EQ(list.key(0), 501);
+    EXPECT_EQ(list.items().texts(0), (QStringList{"Alfa", "Polna 1", "90-001", "Łódź"}));
+
+    viewer->cbCennik->setCurrentIndex(1);
+    ASSERT_EQ(list.itemCount(), 1);
+    EXPECT_EQ(list.key(0), 502);
+    EXPECT_EQ(list.caption(0), "Beta");
+}

@@ -1,0 +1,258 @@
+#include "AddEditCennikWierszeKolumny.h"
+#include "AddEditGrupy.h"
+#include "CennikWierszeKolumny.h"
+#include "LimitedSpinEdits.h"
+#include "PricingData.h"
+#include "ScriptedMessages.h"
+#include "ScriptedModalRunner.h"
+#include "SessionContext.h"
+#include "TBitBtn.h"
+#include "TListView.h"
+#include "TestDatabase.h"
+
+#include <QCheckBox>
+#include <QLabel>
+#include <QLineEdit>
+#include <QPushButton>
+
+#include <gtest/gtest.h>
+
+namespace {
+
+using namespace PricingData;
+
+class RangeEditor : public testing::Test
+{
+protected:
+    void SetUp() override { setSession(1, &db.connection(), nullptr); }
+    void TearDown() override { setSession(0, nullptr, nullptr); }
+
+    std::unique_ptr<TfrmCennikWierszeKolumny> open()
+    {
+        return TfrmRODefault::create<TfrmCennikWierszeKolumny>(nullptr);
+    }
+
+    // The dialog answers with the bound; a refused bound cancels it.
+    static void enter(int bound)
+    {
+        scriptedModalRunner().expect<TfrmAddEditCennikWierszeKolumny>(
+            [bound](TfrmAddEditCennikWierszeKolumny &d) {
+                d.edWartosc->setValue(bound);
+                d.btnOk->click();
+                return d.isVisible() ? (d.btnCancel->click(), d.result()) : d.result();
+            });
+    }
+
+    // "from-to" of every range of an axis, in the database's order.
+    QStringList ranges(const QString &table, const QString &from, const QString &to)
+    {
+        QStringList result;
+        Statement st(db.connection());
+        st.add(QStringLiteral("SELECT %1, %2 FROM %3 ORDER BY %2").arg(from, to, table));
+        for (st.exec(); !st.atEnd(); st.next())
+            result << QStringLiteral("%1-%2").arg(st.integer(0)).arg(st.integer(1));
+        return result;
+    }
+    QStringList kilometres()
+    {
+        return ranges(QStringLiteral("CENNIKI_KRAJ_WIERSZE"), QStringLiteral("ZAKRES_WOD"),
+                      QStringLiteral("ZAKRES_WDO"));
+    }
+    static QStringList shown(const TListView &list)
+    {
+        QStringList result;
+        for (int row = 0; row < list.itemCount(); ++row)
+            result << list.text(row, 0) + u'-' + list.text(row, 1);
+        return result;
+    }
+    static void select(TListView &list, const QString &upperBound)
+    {
+        for (int row = 0; row < list.itemCount(); ++row) {
+            if (list.text(row, 1) == upperBound)
+                list.setSelectedIndex(row);
+        }
+    }
+
+    TestDatabase db;
+};
+
+const QStringList ThreeRanges{"0-50", "51-100", "101-200"};
+
+} // namespace
+
+TEST_F(RangeEditor, OpensWithThreePagesAndNoAuthorWarnings)
+{
+    auto form = open();
+    EXPECT_EQ(form->windowTitle(), "Edycja wierszy i kolumn");
+    EXPECT_EQ(form->lblHeaderDescription->text(), "Cenniki");
+    EXPECT_EQ(form->btnCancel->text(), "&Zamknij");
+    EXPECT_EQ(form->btnDodajWiersz->text(), "&Dodaj");
+    EXPECT_EQ(form->btnUsunKolumne->text(), "Usuń");
+    EXPECT_EQ(form->lvGrupy->columnCaption(1), "Blokada");
+    EXPECT_TRUE(scriptedMessages().shown().empty());
+}
+
+TEST_F(RangeEditor, UpperBoundsInAnyOrderBecomeContiguousRanges)
+{
+    auto form = open();
+    for (int bound : {100, 50, 200}) {
+        enter(bound);
+        form->btnDodajWiersz->click();
+    }
+    EXPECT_EQ(kilometres(), ThreeRanges);
+    EXPECT_EQ(shown(*form->lvWiersze), ThreeRanges);
+    // The last one added is selected.
+    EXPECT_EQ(form->lvWiersze->text(form->lvWiersze->selectedIndex(), 1), "200");
+}
+
+TEST_F(RangeEditor, TheDialogShowsTheUnitOfItsAxis)
+{
+    auto form = open();
+    scriptedModalRunner().expect<TfrmAddEditCennikWierszeKolumny>(
+        [](TfrmAddEditCennikWierszeKolumny &d) {
+            d.edWartosc->setValue(12000);
+            EXPECT_EQ(d.edWartosc->text(), QStringLiteral("12\u00a0000 kg"));
+            EXPECT_EQ(d.windowTitle(), "Edycja");
+            return 2;
+        });
+    form->btnDodajKolumne->click();
+    EXPECT_EQ(db.count(QStringLiteral("CENNIKI_KRAJ_KOLUMNY")), 0);
+}
+
+TEST_F(RangeEditor, ADuplicateUpperBoundIsRefusedAndTheDialogStaysOpen)
+{
+    addKilogramRange(db.connection(), 0, 1000);
+    auto form = open();
+    scriptedMessages().expect();
+    scriptedModalRunner().expect<TfrmAddEditCennikWierszeKolumny>(
+        [](TfrmAddEditCennikWierszeKolumny &d) {
+            d.edWartosc->setValue(1000);
+            d.btnOk->click();
+            EXPECT_TRUE(d.isVisible());
+            d.btnCancel->click();
+            return d.result();
+        });
+    form->btnDodajKolumne->click();
+    ASSERT_EQ(scriptedMessages().shown().size(), 1u);
+    const auto &box = scriptedMessages().shown().front();
+    EXPECT_EQ(box.caption, "Edycja");
+    EXPECT_EQ(box.text, "Pozycja z taką wartością już istnieje! Zapis do bazy niemożliwy.");
+    EXPECT_EQ(box.icon, MessageService::Icon::None);
+    EXPECT_EQ(db.count(QStringLiteral("CENNIKI_KRAJ_KOLUMNY")), 1);
+}
+
+TEST_F(RangeEditor, EditingKeepsAnUnchangedBoundRefusesAnotherRangesAndRenumbers)
+{
+    for (auto [from, to] : {std::pair{0, 50}, {51, 100}, {101, 200}})
+        addKilometreRange(db.connection(), from, to);
+    auto form = open();
+
+    select(*form->lvWiersze, QStringLiteral("100"));
+    enter(100);
+    form->btnPoprawWiersz->click();
+    EXPECT_EQ(kilometres(), ThreeRanges);
+
+    scriptedMessages().expect();
+    enter(50);
+    form->btnPoprawWiersz->click();
+    EXPECT_EQ(scriptedMessages().shown().size(), 1u);
+    EXPECT_EQ(kilometres(), ThreeRanges);
+
+    enter(150);
+    form->btnPoprawWiersz->click();
+    EXPECT_EQ(kilometres(), (QStringList{"0-50", "51-150", "151-200"}));
+    EXPECT_EQ(form->lvWiersze->text(form->lvWiersze->selectedIndex(), 1), "150");
+}
+
+TEST_F(RangeEditor, ARangeUsedByACellIsNotDeleted)
+{
+    const int used = addKilometreRange(db.connection(), 0, 50);
+    addKilometreRange(db.connection(), 51, 100);
+    addKilometreRange(db.connection(), 101, 200);
+    const int column = addKilogramRange(db.connection(), 0, 1000);
+    addCell(db.connection(), 0, used, column, 120.0);
+    auto form = open();
+
+    select(*form->lvWiersze, QStringLiteral("50"));
+    scriptedMessages().expect();
+    form->btnUsunWiersz->click();
+    const auto &refusal = scriptedMessages().shown().back();
+    EXPECT_EQ(refusal.caption, "Usuwanie");
+    EXPECT_EQ(refusal.text, "Nie można usunąć pozycji, gdyż jest ona używana w cennikach! ");
+    EXPECT_EQ(refusal.icon, MessageService::Icon::Information);
+    EXPECT_EQ(kilometres(), ThreeRanges);
+
+    select(*form->lvKolumny, QStringLiteral("1000"));
+    scriptedMessages().expect();
+    form->btnUsunKolumne->click();
+    EXPECT_EQ(db.count(QStringLiteral("CENNIKI_KRAJ_KOLUMNY")), 1);
+}
+
+TEST_F(RangeEditor, DeletingAnUnusedRangeAsksAndRenumbers)
+{
+    for (auto [from, to] : {std::pair{0, 50}, {51, 100}, {101, 200}})
+        addKilometreRange(db.connection(), from, to);
+    auto form = open();
+    select(*form->lvWiersze, QStringLiteral("50"));
+    scriptedMessages().expect(MessageService::No);
+    form->btnUsunWiersz->click();
+    EXPECT_EQ(scriptedMessages().shown().back().text, "Czy na pewno usunąć pozycję?");
+    EXPECT_EQ(kilometres(), ThreeRanges);
+
+    scriptedMessages().expect(MessageService::Yes);
+    form->btnUsunWiersz->click();
+    EXPECT_EQ(kilometres(), (QStringList{"0-100", "101-200"}));
+    EXPECT_EQ(shown(*form->lvWiersze), (QStringList{"0-100", "101-200"}));
+}
+
+TEST_F(RangeEditor, GroupsAreAddedAndCorrectedWithTheirBlockedFlag)
+{
+    auto form = open();
+    scriptedModalRunner().expect<TfrmAddEditGrupy>([](TfrmAddEditGrupy &d) {
+        EXPECT_EQ(d.windowTitle(), "Edycja grupy");
+        EXPECT_EQ(d.edNazwa->maxLength(), 50);
+        d.edNazwa->setText(QStringLiteral("Chłodnie"));
+        d.btnOk->click();
+        return d.result();
+    });
+    form->btnDodajGrupe->click();
+    ASSERT_EQ(form->lvGrupy->itemCount(), 1);
+    EXPECT_EQ(form->lvGrupy->selectedIndex(), 0);
+    EXPECT_EQ(form->lvGrupy->text(0, 1), "");
+
+    scriptedModalRunner().expect<TfrmAddEditGrupy>([](TfrmAddEditGrupy &d) {
+        EXPECT_EQ(d.edNazwa->text(), "Chłodnie");
+        EXPECT_FALSE(d.cbBlokada->isChecked());
+        d.edNazwa->setText(QStringLiteral("Chłodnie 2024"));
+        d.cbBlokada->setChecked(true);
+        d.btnOk->click();
+        return d.result();
+    });
+    form->btnPoprawGrupe->click();
+    EXPECT_EQ(form->lvGrupy->text(0, 0), "Chłodnie 2024");
+    EXPECT_EQ(form->lvGrupy->text(0, 1), "T");
+    EXPECT_EQ(db.count(QStringLiteral("CENNIKI_KRAJ_GRUPY"),
+                       QStringLiteral("NAZWA = 'Chłodnie 2024' AND BLOKADA = 1")),
+              1);
+}
+
+// The suite's usage test of a group names the column IDGRUPY, which the
+// cells do not have: the database refuses the test, the refusal is shown
+// and the group stays, used or not.
+TEST_F(RangeEditor, AGroupIsNeverDeletedWhileItsUsageCannotBeCounted)
+{
+    const int used = addGroup(db.connection(), QStringLiteral("Chłodnie"));
+    addCell(db.connection(), used, addKilometreRange(db.connection(), 0, 50),
+            addKilogramRange(db.connection(), 0, 1000), 300.0);
+    addGroup(db.connection(), QStringLiteral("Pusta"));
+    auto form = open();
+    for (int row : {0, 1}) {
+        form->lvGrupy->setSelectedIndex(row);
+        scriptedMessages().expect();
+        form->btnUsunGrupe->click();
+        const auto &box = scriptedMessages().shown().back();
+        EXPECT_EQ(box.caption, "Błąd");
+        EXPECT_TRUE(box.text.contains("IDGRUPY")) << box.text.toStdString();
+    }
+    EXPECT_EQ(db.count(QStringLiteral("CENNIKI_KRAJ_GRUPY")), 2);
+}

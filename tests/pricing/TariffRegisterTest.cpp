@@ -1,0 +1,207 @@
+#include "AddEditStawkiTaryfowe.h"
+#include "LVFrame.h"
+#include "LimitedSpinEdits.h"
+#include "PricingData.h"
+#include "ScriptedMessages.h"
+#include "ScriptedModalRunner.h"
+#include "SessionContext.h"
+#include "StawkiTaryfowe.h"
+#include "TBitBtn.h"
+#include "TListView.h"
+#include "TTaryfyprzewoznikaObj.h"
+#include "TestDatabase.h"
+
+#include <QAction>
+#include <QComboBox>
+#include <QLineEdit>
+
+#include <gtest/gtest.h>
+
+namespace {
+
+using namespace PricingData;
+
+class TariffRegister : public testing::Test
+{
+protected:
+    void SetUp() override
+    {
+        setSession(1, &db.connection(), nullptr);
+        Connection &c = db.connection();
+        carrier = addTariff(c, QStringLiteral("Podwykonawca"), 0, 10.0, 2.7, 70.0, 35.0);
+        own = addTariff(c, QStringLiteral("Krajowa standard"), 1, 12.5, 3.2, 85.0, 45.0);
+        express = addTariff(c, QStringLiteral("Ekspres"), 1, 0.0, 4.4, 120.0, 0.0);
+        db.exec(QStringLiteral("UPDATE TARYFYPRZEWOZNIKA SET MAGAZYNOWANIE = 35, INNE = 7, "
+                               "NUMER_STAWKI = 3 WHERE ID_TARYFYPRZEWOZNIKA = %1")
+                    .arg(express));
+    }
+    void TearDown() override { setSession(0, nullptr, nullptr); }
+
+    std::unique_ptr<TfrmStawkiTaryfowe> open(int current, int kind)
+    {
+        return TfrmRODefault::create<TfrmStawkiTaryfowe>(nullptr, current, kind);
+    }
+    static TListView &list(TfrmStawkiTaryfowe &form) { return *form.frameListView1->lvMain; }
+    static QStringList captions(TfrmStawkiTaryfowe &form)
+    {
+        QStringList result;
+        for (int row = 0; row < list(form).itemCount(); ++row)
+            result << list(form).caption(row);
+        return result;
+    }
+    QString column(int key, const char *name)
+    {
+        return db.scalar(QStringLiteral("SELECT %1 FROM TARYFYPRZEWOZNIKA WHERE "
+                                        "ID_TARYFYPRZEWOZNIKA = %2")
+                             .arg(QLatin1String(name))
+                             .arg(key));
+    }
+
+    TestDatabase db;
+    int carrier = 0, own = 0, express = 0;
+};
+
+} // namespace
+
+TEST_F(TariffRegister, ShowsOnlyTheChosenKind)
+{
+    auto form = open(0, 0);
+    EXPECT_EQ(form->windowTitle(), "Stawki taryfowe");
+    EXPECT_EQ(form->btnOk->text(), "&Wybierz");
+    EXPECT_EQ(form->cbFilter->currentText(), "przewoźnika");
+    EXPECT_EQ(captions(*form), QStringList{"Podwykonawca"});
+
+    form->cbFilter->setCurrentIndex(1);
+    EXPECT_EQ(captions(*form), (QStringList{"Krajowa standard", "Ekspres"}));
+    const int row = list(*form).findByKey(own);
+    EXPECT_EQ(list(*form).items().texts(row),
+              (QStringList{"Krajowa standard", "0", "3,20", "12,50", "45,00", "85,00"}));
+}
+
+TEST_F(TariffRegister, TheOpenersKindIndexFollowsItsRule)
+{
+    EXPECT_EQ(open(0, 1)->cbFilter->currentIndex(), 1);
+    EXPECT_EQ(open(0, -7)->cbFilter->currentIndex(), 0);
+    EXPECT_EQ(open(0, 3)->cbFilter->currentIndex(), 0);
+    for (int noKind : {-1, 2}) {
+        auto form = open(0, noKind);
+        EXPECT_EQ(form->cbFilter->currentIndex(), -1);
+        EXPECT_EQ(list(*form).itemCount(), 0);
+    }
+}
+
+TEST_F(TariffRegister, ChoosingHandsBackTheWholeRecordZerosIncluded)
+{
+    auto form = open(express, 1);
+    ASSERT_EQ(list(*form).selectedIndex(), list(*form).findByKey(express));
+    scriptedModalRunner().expect<TfrmStawkiTaryfowe>([](TfrmStawkiTaryfowe &f) {
+        f.btnOk->click();
+        return f.result();
+    });
+    ASSERT_EQ(form->showModal(), TfrmRODefault::mrOk);
+    const TTaryfyprzewoznikaObj &chosen = form->selectedTariff();
+    EXPECT_EQ(chosen.ID_TARYFYPRZEWOZNIKA, express);
+    EXPECT_EQ(chosen.NAZWA_STAWKI, "Ekspres");
+    EXPECT_EQ(chosen.NUMER_STAWKI, 3);
+    EXPECT_DOUBLE_EQ(chosen.KWOTA_ZA_KM, 0.0);
+    EXPECT_DOUBLE_EQ(chosen.KWOTA_ZA_KM_LAD, 4.4);
+    EXPECT_DOUBLE_EQ(chosen.KWOTA_ZA_GODZ, 120.0);
+    EXPECT_DOUBLE_EQ(chosen.KWOTA_ZA_PALETE, 0.0);
+    EXPECT_DOUBLE_EQ(chosen.MAGAZYNOWANIE, 35.0);
+}
+
+TEST_F(TariffRegister, ChooseWithoutASelectionKeepsTheRegisterOpen)
+{
+    auto form = open(0, 0);
+    list(*form).setSelectedIndex(-1);
+    EXPECT_FALSE(form->acPopraw->isEnabled());
+    EXPECT_FALSE(form->acUsun->isEnabled());
+    EXPECT_FALSE(form->frameListView1->BitBtn4->isEnabled());
+    EXPECT_TRUE(form->acDodaj->isEnabled());
+    scriptedModalRunner().expect<TfrmStawkiTaryfowe>([](TfrmStawkiTaryfowe &f) {
+        f.btnOk->click();
+        EXPECT_TRUE(f.isVisible());
+        list(f).setSelectedIndex(0);
+        EXPECT_TRUE(f.acPopraw->isEnabled());
+        EXPECT_TRUE(f.frameListView1->BitBtn6->isEnabled());
+        return f.result();
+    });
+    EXPECT_EQ(form->showModal(), 0);
+    EXPECT_FALSE(form->hasSelectedTariff());
+    EXPECT_THROW(form->selectedTariff(), std::logic_error);
+}
+
+TEST_F(TariffRegister, AddingStoresTheKindAndZeroStorage)
+{
+    auto form = open(0, 1);
+    scriptedModalRunner().expect<TfrmAddEditStawkiTaryfowe>([](TfrmAddEditStawkiTaryfowe &e) {
+        EXPECT_EQ(e.cbFilter->currentIndex(), 0);
+        EXPECT_TRUE(e.cbFilter->isEnabled());
+        e.cbFilter->setCurrentIndex(1);
+        e.edNazwaStawki->setText(QStringLiteral("Paletowa"));
+        e.seNumerStawki->setValue(14);
+        e.seStawkaKM->setValue(2.5);
+        e.seStawkaKMPusty->setValue(11.0);
+        e.seStawkaPaleta->setValue(40.0);
+        e.seStawkaGodzina->setValue(90.0);
+        e.btnOk->click();
+        return e.result();
+    });
+    form->acDodaj->trigger();
+    const QString key
+        = db.scalar(QStringLiteral("SELECT MAX(ID_TARYFYPRZEWOZNIKA) FROM TARYFYPRZEWOZNIKA"));
+    EXPECT_EQ(db.count(QStringLiteral("TARYFYPRZEWOZNIKA"),
+                       QStringLiteral("ID_TARYFYPRZEWOZNIKA = %1 AND NAZWA_STAWKI = 'Paletowa' "
+                                      "AND TARYFAWLASNA = 1 AND NUMER_STAWKI = 14 AND "
+                                      "KWOTA_ZA_KM_LAD = 2.5 AND KWOTA_ZA_KM = 11 AND "
+                                      "KWOTA_ZA_PALETE = 40 AND KWOTA_ZA_GODZ = 90 AND "
+                                      "MAGAZYNOWANIE = 0 AND INNE = 0")
+                           .arg(key)),
+              1);
+    EXPECT_TRUE(captions(*form).contains("Paletowa"));
+}
+
+TEST_F(TariffRegister, EditingKeepsTheKindStorageAndOther)
+{
+    auto form = open(0, 1);
+    list(*form).setSelectedIndex(list(*form).findByKey(express));
+    scriptedModalRunner().expect<TfrmAddEditStawkiTaryfowe>([](TfrmAddEditStawkiTaryfowe &e) {
+        EXPECT_EQ(e.cbFilter->currentIndex(), 1);
+        EXPECT_FALSE(e.cbFilter->isEnabled());
+        EXPECT_EQ(e.edNazwaStawki->text(), "Ekspres");
+        EXPECT_DOUBLE_EQ(e.seStawkaKM->value(), 4.4);
+        EXPECT_DOUBLE_EQ(e.seStawkaGodzina->value(), 120.0);
+        e.cbFilter->setCurrentIndex(0);   // even forced, the kind must stay
+        e.edNazwaStawki->setText(QStringLiteral("Ekspres 24h"));
+        e.seStawkaKMPusty->setValue(1.5);
+        e.btnOk->click();
+        return e.result();
+    });
+    form->acPopraw->trigger();
+    EXPECT_EQ(column(express, "TARYFAWLASNA"), "1");
+    EXPECT_EQ(column(express, "NAZWA_STAWKI"), "Ekspres 24h");
+    EXPECT_EQ(column(express, "KWOTA_ZA_KM").toDouble(), 1.5);
+    EXPECT_EQ(column(express, "MAGAZYNOWANIE").toDouble(), 35.0);
+    EXPECT_EQ(column(express, "INNE").toDouble(), 7.0);
+    EXPECT_EQ(list(*form).caption(list(*form).selectedIndex()), "Ekspres 24h");
+}
+
+TEST_F(TariffRegister, DeletingAsksAndRemovesTheRow)
+{
+    auto form = open(0, 1);
+    list(*form).setSelectedIndex(list(*form).findByKey(own));
+    scriptedMessages().expect(MessageService::No);
+    form->acUsun->trigger();
+    EXPECT_EQ(db.count(QStringLiteral("TARYFYPRZEWOZNIKA")), 3);
+
+    scriptedMessages().expect(MessageService::Yes);
+    form->acUsun->trigger();
+    const auto &asked = scriptedMessages().shown().back();
+    EXPECT_EQ(asked.caption, "Usuwanie");
+    EXPECT_EQ(asked.text, "Usunąć wybraną pozycję");
+    EXPECT_EQ(asked.icon, MessageService::Icon::Question);
+    EXPECT_EQ(db.count(QStringLiteral("TARYFYPRZEWOZNIKA"),
+                       QStringLiteral("ID_TARYFYPRZEWOZNIKA = %1").arg(own)),
+              0);
+    EXPECT_EQ(captions(*form), QStringList{"Ekspres"});
+}
