@@ -58,6 +58,7 @@ TfrmAddEditZlecenia_Przych::TfrmAddEditZlecenia_Przych(QWidget *owner, int order
     buildControls();
     buildLayout();
     connectControls();
+    connectPricing();
     // The editor closes itself once the order is saved; a failed save keeps
     // it open with everything typed.
     btnOk->setModalResult(0);
@@ -96,6 +97,7 @@ void TfrmAddEditZlecenia_Przych::FormCreate()
     try {
         m_ownerKey = TDaneFirmy().GetConfigInt(QStringLiteral("IDWłaściciela"));
         fillLists();
+        fillPriceListMenu();
         if (m_mode == Edit) {
             m_order = IncomingOrderStatements::load(m_order.connection(), m_order.ID_ZLECENIA_PRZYCH);
             showOrder();
@@ -401,6 +403,7 @@ void TfrmAddEditZlecenia_Przych::save()
         IncomingOrderStatements::insert(connection, m_order);
     else
         IncomingOrderStatements::update(connection, m_order);
+    rememberRoute();
     if (scope)
         scope->commit();
 }

@@ -10,12 +10,14 @@ class QComboBox;
 class QGroupBox;
 class QLabel;
 class QLineEdit;
+class QMenu;
 class QPlainTextEdit;
 class QPushButton;
 class QRadioButton;
 class QSpinBox;
 class TDateEdit;
 class TNumberEdit;
+class TTaryfyprzewoznikaObj;
 
 // The dialog in which one incoming order is entered or corrected: client,
 // carrier, route, loading and unloading, the four priced quantities with
@@ -52,6 +54,14 @@ public:
     OrderQuantities quantities() const;
     UnitRates rates() const;
 
+    // What the pickers do with the user's choice, after the tariff register
+    // closed with OK: the revenue tariff brings its four rates along, the
+    // cost tariff only its key and name.
+    void tariffChosen(const TTaryfyprzewoznikaObj &tariff);
+    void costTariffChosen(const TTaryfyprzewoznikaObj &tariff);
+    // The agreed amount from a price list (group 0: the main one).
+    void priceListChosen(int group);
+
     QLabel *lblNumerKolejny;
     QSpinBox *seNumerKolejny;
     QLabel *lblPrzeladunek;
@@ -69,6 +79,9 @@ public:
     QComboBox *cbMiastoPrzez;
     QLabel *lblMiastoDo;
     QComboBox *cbMiastoDo;
+    QPushButton *btnMiastoOd;        // "..." buttons: the distance register
+    QPushButton *btnMiastoPrzez;
+    QPushButton *btnMiastoDo;
 
     QGroupBox *gbZaladunek;
     TDateEdit *deAwizo;
@@ -97,11 +110,15 @@ public:
     TNumberEdit *seKwota;
     QRadioButton *rbStawkaTaryfowa;
     QLineEdit *ceTaryfa;
+    QAction *acTaryfa;               // the tariff field's button
+    QPushButton *btnCennik;          // "Wylicz z cennika", pops up pmCennik
+    QMenu *pmCennik;                 // price lists, the group key with each entry
     QGroupBox *gbKoszty;
     QRadioButton *rbKosztUmowna;
     TNumberEdit *seKosztKwota;
     QRadioButton *rgKosztTaryfa;
     QLineEdit *ceKosztTaryfa;
+    QAction *acKosztTaryfa;
 
     QLabel *lblRabat;
     TNumberEdit *ceRabat;
@@ -134,6 +151,7 @@ public:
 
 protected:
     void FormCreate() override;
+    bool eventFilter(QObject *watched, QEvent *event) override;
 
 private:
     void buildControls();
@@ -157,6 +175,16 @@ private:
     void BitBtn1Click();
     void acKierowcaExecute();
     void limitDescription();
+
+    // Pricing: tariffs, price lists, cities and the route's distance.
+    void connectPricing();
+    void fillPriceListMenu();
+    void acTaryfaExecute();
+    void acKosztTaryfaExecute();
+    void clearTariff();
+    void cityChosen();
+    void btnMiastoClick();
+    void rememberRoute();
 
     void btnOkClick();
     // The controls into the record; false (after the message) when a time

@@ -11,6 +11,7 @@
 #include <QGroupBox>
 #include <QLabel>
 #include <QLineEdit>
+#include <QMenu>
 #include <QPlainTextEdit>
 #include <QPushButton>
 #include <QRadioButton>
@@ -55,6 +56,14 @@ QLineEdit *timeField(const char *name, QWidget *parent)
     edit->setText(QStringLiteral("00:00"));
     edit->setMaximumWidth(60);
     return edit;
+}
+
+QPushButton *cityButton(const char *name, QWidget *parent)
+{
+    auto *button = named<QPushButton>(name, QStringLiteral("..."), parent);
+    button->setFixedWidth(26);
+    button->setToolTip(QStringLiteral("Miasta i odległości"));
+    return button;
 }
 
 QLabel *caption(const QString &text, QWidget *buddy, QWidget *parent)
@@ -105,8 +114,11 @@ void TfrmAddEditZlecenia_Przych::buildControls()
     lblMiastoDo = caption(QStringLiteral("do miasta"), cbMiastoDo, p);
     for (QComboBox *city : {cbMiastoOd, cbMiastoPrzez, cbMiastoDo}) {
         city->setMaxVisibleItems(24);
-        city->setMinimumWidth(150);
+        city->setMinimumWidth(130);
     }
+    btnMiastoOd = cityButton("btnMiastoOd", p);
+    btnMiastoPrzez = cityButton("btnMiastoPrzez", p);
+    btnMiastoDo = cityButton("btnMiastoDo", p);
 
     gbZaladunek = dayAndHour("gbZaladunek", QStringLiteral("Załadunek"), deAwizo, meAwizo,
                              "deAwizo", "meAwizo", p);
@@ -134,12 +146,17 @@ void TfrmAddEditZlecenia_Przych::buildControls()
     rbStawkaTaryfowa = named<QRadioButton>("rbStawkaTaryfowa", QStringLiteral("Wg taryfy"), gbStawka);
     ceTaryfa = text("ceTaryfa", 45, gbStawka);
     ceTaryfa->setReadOnly(true);
+    ceTaryfa->setToolTip(QStringLiteral("Klawisz Delete usuwa taryfę"));
+    acTaryfa = addPickerButton(ceTaryfa, QStringLiteral("acTaryfa"));
+    btnCennik = named<QPushButton>("btnCennik", QStringLiteral("Wylicz z cennika"), gbStawka);
+    pmCennik = named<QMenu>("pmCennik", btnCennik);
     gbKoszty = named<QGroupBox>("gbKoszty", QStringLiteral("Koszty"), p);
     rbKosztUmowna = named<QRadioButton>("rbKosztUmowna", QStringLiteral("Umowna"), gbKoszty);
     seKosztKwota = named<TNumberEdit>("seKosztKwota", QStringLiteral("#,##0.00"), 2, 999999.0, gbKoszty);
     rgKosztTaryfa = named<QRadioButton>("rgKosztTaryfa", QStringLiteral("Wg taryfy"), gbKoszty);
     ceKosztTaryfa = text("ceKosztTaryfa", 45, gbKoszty);
     ceKosztTaryfa->setReadOnly(true);
+    acKosztTaryfa = addPickerButton(ceKosztTaryfa, QStringLiteral("acKosztTaryfa"));
 
     ceRabat = named<TNumberEdit>("ceRabat", QStringLiteral(",0.00 %"), 2, 100.0, p);
     lblRabat = caption(QStringLiteral("Rabat:"), ceRabat, p);
@@ -187,6 +204,7 @@ void TfrmAddEditZlecenia_Przych::buildLayout()
     stawka->addWidget(seKwota, 0, 1);
     stawka->addWidget(rbStawkaTaryfowa, 1, 0);
     stawka->addWidget(ceTaryfa, 1, 1);
+    stawka->addWidget(btnCennik, 2, 1);
     stawka->setColumnStretch(1, 1);
     auto *koszty = new QGridLayout(gbKoszty);
     koszty->addWidget(rbKosztUmowna, 0, 0);
@@ -212,10 +230,12 @@ void TfrmAddEditZlecenia_Przych::buildLayout()
     grid->addWidget(BitBtn1, row, 5);
 
     auto *route = new QHBoxLayout;
-    for (const auto &[label, city] : {std::pair{lblMiastoOd, cbMiastoOd},
-                                      {lblMiastoPrzez, cbMiastoPrzez}, {lblMiastoDo, cbMiastoDo}}) {
+    for (const auto &[label, city, button] :
+         {std::tuple{lblMiastoOd, cbMiastoOd, btnMiastoOd},
+          {lblMiastoPrzez, cbMiastoPrzez, btnMiastoPrzez}, {lblMiastoDo, cbMiastoDo, btnMiastoDo}}) {
         route->addWidget(label);
         route->addWidget(city, 1);
+        route->addWidget(button);
     }
     grid->addLayout(route, ++row, 0, 1, 6);
     grid->addWidget(gbZaladunek, ++row, 0, 1, 3);
