@@ -39,6 +39,18 @@ Connection &sessionDatabase()
     return *session().Database;
 }
 
+// The limits of a field are for typing: a value stored by another program
+// or an older version is shown as it is, never clipped on its way back.
+template <class Field, class Value>
+void showUnclipped(Field *field, Value value)
+{
+    if (value > field->maximum())
+        field->setMaximum(value);
+    if (value < field->minimum())
+        field->setMinimum(value);
+    field->setValue(value);
+}
+
 UnitRates tariffRates(const TTaryfyprzewoznikaObj &tariff)
 {
     return {tariff.KWOTA_ZA_KM_LAD, tariff.KWOTA_ZA_KM, tariff.KWOTA_ZA_GODZ,
@@ -146,7 +158,7 @@ void TfrmAddEditZlecenia_Przych::showNewOrder()
 void TfrmAddEditZlecenia_Przych::showOrder()
 {
     const TZlecenia_przychObj &o = m_order;
-    seNumerKolejny->setValue(o.NUMER);
+    showUnclipped(seNumerKolejny, o.NUMER);
     edPrzeladunek->setText(o.NUMER_OBCY);
     KeyedLists::selectKey(cbKlient, o.IDKONTRAHENTA);
     KeyedLists::selectKey(cbPrzewoznik, o.IDPRZEWOZNIK);
@@ -161,15 +173,15 @@ void TfrmAddEditZlecenia_Przych::showOrder()
     deRozladunek->setValue(o.DOSTARCZENIE);
     meRozladunek->setText(ClockTime::text(o.DOSTARCZENIE));
 
-    seOdleglosc->setValue(o.ODLEGLOSC);
-    seKMLadownych->setValue(o.KM_LADOWNE);
-    edStawkaKMLadowny->setValue(o.STAWKA_KMLAD);
-    seKMPustych->setValue(o.KM_PUSTE);
-    edStawkaKMPusty->setValue(o.STAWKA_KMPUSTY);
-    seIloscGodzin->setValue(o.ILOSC_GODZIN);
-    edStawkaIloscGodzin->setValue(o.STAWKA_GODZINY);
-    seIloscPalet->setValue(o.PALETYILOSC);
-    edStawkaIloscPalet->setValue(o.STAWKA_PALETY);
+    showUnclipped(seOdleglosc, o.ODLEGLOSC);
+    showUnclipped(seKMLadownych, o.KM_LADOWNE);
+    showUnclipped(edStawkaKMLadowny, o.STAWKA_KMLAD);
+    showUnclipped(seKMPustych, o.KM_PUSTE);
+    showUnclipped(edStawkaKMPusty, o.STAWKA_KMPUSTY);
+    showUnclipped(seIloscGodzin, o.ILOSC_GODZIN);
+    showUnclipped(edStawkaIloscGodzin, o.STAWKA_GODZINY);
+    showUnclipped(seIloscPalet, o.PALETYILOSC);
+    showUnclipped(edStawkaIloscPalet, o.STAWKA_PALETY);
 
     // An order priced by rates keeps that mode even after its tariff was
     // cleared: its total comes from the rates, not from the zero amount.
@@ -177,11 +189,11 @@ void TfrmAddEditZlecenia_Przych::showOrder()
     const bool byRates = r.perLoadedKilometre != 0.0 || r.perTonne != 0.0 || r.perHour != 0.0
                          || r.perPallet != 0.0;
     const bool byTariff = o.IDTARYFY != 0 || (o.KWOTA == 0.0 && byRates);
-    seKwota->setValue(o.KWOTA);
+    showUnclipped(seKwota, o.KWOTA);
     m_tariffKey = o.IDTARYFY;
     showTariffName(ceTaryfa, m_tariffKey);
     (byTariff ? rbStawkaTaryfowa : rbStawkaUmowna)->setChecked(true);
-    seKosztKwota->setValue(o.KOSZTKWOTA);
+    showUnclipped(seKosztKwota, o.KOSZTKWOTA);
     m_costTariffKey = o.IDTARYFYKOSZT;
     showTariffName(ceKosztTaryfa, m_costTariffKey);
     (m_costTariffKey != 0 ? rgKosztTaryfa : rbKosztUmowna)->setChecked(true);
@@ -192,12 +204,12 @@ void TfrmAddEditZlecenia_Przych::showOrder()
     edNaczepa->setText(o.NACZEPA);
     ceKierowca->setText(o.KIEROWCA);
     m_driverKey = o.IDKIEROWCY;
-    seDokWZ->setValue(o.DOK_WZ);
-    edNrKarty->setValue(o.NR_KARTY);
-    edNrListu->setValue(o.NR_LISTU);
+    showUnclipped(seDokWZ, o.DOK_WZ);
+    showUnclipped(edNrKarty, o.NR_KARTY);
+    showUnclipped(edNrListu, o.NR_LISTU);
     memOpisDod->setPlainText(o.DODATKOWY_OPIS);
-    ceRabat->setValue(o.RABAT);
-    ceOplataSkarbowa->setValue(o.OPLATA_SKARBOWA);
+    showUnclipped(ceRabat, o.RABAT);
+    showUnclipped(ceOplataSkarbowa, o.OPLATA_SKARBOWA);
     if (!KeyedLists::selectKey(cbWspolnik, o.FILTR1))
         KeyedLists::selectKey(cbWspolnik, 0);
     chslubice->setChecked(o.FILTR2 != 0);
