@@ -86,7 +86,8 @@ void TfrmAddEditZlecenia_Przych::connectControls()
                                 edStawkaIloscGodzin, edStawkaIloscPalet, seKwota})
         connect(number, &TNumberEdit::valueChanged, this,
                 &TfrmAddEditZlecenia_Przych::recomputeTotal);
-    connect(rbStawkaUmowna, &QRadioButton::clicked, this, &TfrmAddEditZlecenia_Przych::rbStawkaClick);
+    connect(rbStawkaUmowna, &QRadioButton::clicked, this,
+            &TfrmAddEditZlecenia_Przych::rbStawkaClick);
     connect(rbStawkaTaryfowa, &QRadioButton::clicked, this,
             &TfrmAddEditZlecenia_Przych::rbStawkaClick);
     connect(rbKosztUmowna, &QRadioButton::clicked, this, &TfrmAddEditZlecenia_Przych::rbKosztClick);
@@ -111,7 +112,8 @@ void TfrmAddEditZlecenia_Przych::FormCreate()
         fillLists();
         fillPriceListMenu();
         if (m_mode == Edit) {
-            m_order = IncomingOrderStatements::load(m_order.connection(), m_order.ID_ZLECENIA_PRZYCH);
+            m_order = IncomingOrderStatements::load(m_order.connection(),
+                                                    m_order.ID_ZLECENIA_PRZYCH);
             showOrder();
         } else {
             showNewOrder();
@@ -134,7 +136,8 @@ void TfrmAddEditZlecenia_Przych::fillContractors()
 {
     const int client = KeyedLists::currentKey(cbKlient);
     const int carrier = KeyedLists::currentKey(cbPrzewoznik);
-    const std::vector<KeyedLists::Entry> contractors = KeyedLists::contractors(m_order.connection());
+    const std::vector<KeyedLists::Entry> contractors
+        = KeyedLists::contractors(m_order.connection());
     KeyedLists::fillSorted(cbKlient, contractors);
     KeyedLists::fillSorted(cbPrzewoznik, contractors);
     KeyedLists::selectKey(cbKlient, client);
@@ -221,7 +224,8 @@ void TfrmAddEditZlecenia_Przych::showTariffName(QLineEdit *field, int key)
     field->clear();
     if (key == 0)
         return;
-    const TTaryfyprzewoznikaObj tariff = TTaryfyprzewoznikaObj(m_order.connection()).SelectById(key);
+    const TTaryfyprzewoznikaObj tariff
+        = TTaryfyprzewoznikaObj(m_order.connection()).SelectById(key);
     field->setText(tariff.NAZWA_STAWKI);
 }
 
@@ -296,25 +300,27 @@ void TfrmAddEditZlecenia_Przych::ownCarrierClick(bool checked)
         KeyedLists::selectKey(cbPrzewoznik, m_ownerKey);
 }
 
-void TfrmAddEditZlecenia_Przych::btnKlientMoreClick()
+bool TfrmAddEditZlecenia_Przych::pickContractor(QComboBox *list)
 {
     int chosen = 0;
-    if (TDaneFirmy().SelectContractor(KeyedLists::currentKey(cbKlient), chosen) != 1)
-        return;
-    if (cbKlient->findData(chosen) < 0)
+    if (TDaneFirmy().SelectContractor(KeyedLists::currentKey(list), chosen) != 1)
+        return false;
+    // The contractors' register may have added the one chosen.
+    if (list->findData(chosen) < 0)
         fillContractors();
-    KeyedLists::selectKey(cbKlient, chosen);
+    KeyedLists::selectKey(list, chosen);
+    return true;
+}
+
+void TfrmAddEditZlecenia_Przych::btnKlientMoreClick()
+{
+    pickContractor(cbKlient);
 }
 
 void TfrmAddEditZlecenia_Przych::BitBtn1Click()
 {
-    int chosen = 0;
-    if (TDaneFirmy().SelectContractor(KeyedLists::currentKey(cbPrzewoznik), chosen) != 1)
-        return;
-    if (cbPrzewoznik->findData(chosen) < 0)
-        fillContractors();
-    KeyedLists::selectKey(cbPrzewoznik, chosen);
-    carrierChosen();
+    if (pickContractor(cbPrzewoznik))
+        carrierChosen();
 }
 
 void TfrmAddEditZlecenia_Przych::acKierowcaExecute()

@@ -171,6 +171,8 @@ private:
     void rbKosztClick();
     void carrierChosen();
     void ownCarrierClick(bool checked);
+    // The contractors' selection window for a list; true when one was chosen.
+    bool pickContractor(QComboBox *list);
     void btnKlientMoreClick();
     void BitBtn1Click();
     void acKierowcaExecute();

@@ -48,6 +48,21 @@ QLineEdit *text(const char *name, int length, QWidget *parent)
     return edit;
 }
 
+TNumberEdit *agreedAmount(const char *name, double maximum, QWidget *parent)
+{
+    return named<TNumberEdit>(name, QStringLiteral("#,##0.00"), 2, maximum, parent);
+}
+
+// A tariff's name, never typed into; its button opens the tariff register.
+QLineEdit *tariffField(const char *name, QAction *&button, const char *buttonName,
+                       QWidget *parent)
+{
+    QLineEdit *field = text(name, 45, parent);
+    field->setReadOnly(true);
+    button = addPickerButton(field, QString::fromLatin1(buttonName));
+    return field;
+}
+
 QLineEdit *timeField(const char *name, QWidget *parent)
 {
     auto *edit = named<QLineEdit>(name, parent);
@@ -101,7 +116,8 @@ void TfrmAddEditZlecenia_Przych::buildControls()
     cbKlient = named<QComboBox>("cbKlient", p);
     lblKlient = caption(QStringLiteral("Zleceniodawca"), cbKlient, p);
     btnKlientMore = named<QPushButton>("btnKlientMore", QStringLiteral("Więcej..."), p);
-    cbPrzewoznikObcy = named<QCheckBox>("cbPrzewoznikObcy", QStringLiteral("Perzewoźnik własny:"), p);
+    cbPrzewoznikObcy
+        = named<QCheckBox>("cbPrzewoznikObcy", QStringLiteral("Perzewoźnik własny:"), p);
     cbPrzewoznikObcy->setLayoutDirection(Qt::RightToLeft);
     cbPrzewoznik = named<QComboBox>("cbPrzewoznik", p);
     BitBtn1 = named<QPushButton>("BitBtn1", QStringLiteral("Więcej..."), p);
@@ -142,21 +158,18 @@ void TfrmAddEditZlecenia_Przych::buildControls()
 
     gbStawka = named<QGroupBox>("gbStawka", QStringLiteral("Stawka"), p);
     rbStawkaUmowna = named<QRadioButton>("rbStawkaUmowna", QStringLiteral("Umowna"), gbStawka);
-    seKwota = named<TNumberEdit>("seKwota", QStringLiteral("#,##0.00"), 2, 99999.0, gbStawka);
-    rbStawkaTaryfowa = named<QRadioButton>("rbStawkaTaryfowa", QStringLiteral("Wg taryfy"), gbStawka);
-    ceTaryfa = text("ceTaryfa", 45, gbStawka);
-    ceTaryfa->setReadOnly(true);
+    seKwota = agreedAmount("seKwota", 99999.0, gbStawka);
+    rbStawkaTaryfowa
+        = named<QRadioButton>("rbStawkaTaryfowa", QStringLiteral("Wg taryfy"), gbStawka);
+    ceTaryfa = tariffField("ceTaryfa", acTaryfa, "acTaryfa", gbStawka);
     ceTaryfa->setToolTip(QStringLiteral("Klawisz Delete usuwa taryfę"));
-    acTaryfa = addPickerButton(ceTaryfa, QStringLiteral("acTaryfa"));
     btnCennik = named<QPushButton>("btnCennik", QStringLiteral("Wylicz z cennika"), gbStawka);
     pmCennik = named<QMenu>("pmCennik", btnCennik);
     gbKoszty = named<QGroupBox>("gbKoszty", QStringLiteral("Koszty"), p);
     rbKosztUmowna = named<QRadioButton>("rbKosztUmowna", QStringLiteral("Umowna"), gbKoszty);
-    seKosztKwota = named<TNumberEdit>("seKosztKwota", QStringLiteral("#,##0.00"), 2, 999999.0, gbKoszty);
+    seKosztKwota = agreedAmount("seKosztKwota", 999999.0, gbKoszty);
     rgKosztTaryfa = named<QRadioButton>("rgKosztTaryfa", QStringLiteral("Wg taryfy"), gbKoszty);
-    ceKosztTaryfa = text("ceKosztTaryfa", 45, gbKoszty);
-    ceKosztTaryfa->setReadOnly(true);
-    acKosztTaryfa = addPickerButton(ceKosztTaryfa, QStringLiteral("acKosztTaryfa"));
+    ceKosztTaryfa = tariffField("ceKosztTaryfa", acKosztTaryfa, "acKosztTaryfa", gbKoszty);
 
     ceRabat = named<TNumberEdit>("ceRabat", QStringLiteral(",0.00 %"), 2, 100.0, p);
     lblRabat = caption(QStringLiteral("Rabat:"), ceRabat, p);
@@ -232,7 +245,8 @@ void TfrmAddEditZlecenia_Przych::buildLayout()
     auto *route = new QHBoxLayout;
     for (const auto &[label, city, button] :
          {std::tuple{lblMiastoOd, cbMiastoOd, btnMiastoOd},
-          {lblMiastoPrzez, cbMiastoPrzez, btnMiastoPrzez}, {lblMiastoDo, cbMiastoDo, btnMiastoDo}}) {
+          {lblMiastoPrzez, cbMiastoPrzez, btnMiastoPrzez},
+          {lblMiastoDo, cbMiastoDo, btnMiastoDo}}) {
         route->addWidget(label);
         route->addWidget(city, 1);
         route->addWidget(button);
@@ -278,24 +292,19 @@ void TfrmAddEditZlecenia_Przych::buildLayout()
     grid->addWidget(lblOplataSkarbowa, row, 4);
     grid->addWidget(ceOplataSkarbowa, row, 5);
 
-    grid->addWidget(lblPojazd, ++row, 0);
-    grid->addWidget(edPojazd, row, 1);
-    grid->addWidget(lblNaczepa, row, 2);
-    grid->addWidget(edNaczepa, row, 3);
+    const auto addRow = [&](std::initializer_list<QWidget *> cells) {
+        int column = 0;
+        ++row;
+        for (QWidget *cell : cells)
+            grid->addWidget(cell, row, column++);
+    };
+    addRow({lblPojazd, edPojazd, lblNaczepa, edNaczepa});
     grid->addWidget(lblKierowca, ++row, 0);
     grid->addWidget(ceKierowca, row, 1, 1, 3);
-    grid->addWidget(lblDokWZ, ++row, 0);
-    grid->addWidget(seDokWZ, row, 1);
-    grid->addWidget(lblNrKarty, row, 2);
-    grid->addWidget(edNrKarty, row, 3);
-    grid->addWidget(lblNrListu, row, 4);
-    grid->addWidget(edNrListu, row, 5);
+    addRow({lblDokWZ, seDokWZ, lblNrKarty, edNrKarty, lblNrListu, edNrListu});
     grid->addWidget(lblOpisDod, ++row, 0);
     grid->addWidget(memOpisDod, row, 1, 1, 5);
-    grid->addWidget(lblTekstStaly, ++row, 0);
-    grid->addWidget(edTekstStaly, row, 1);
-    grid->addWidget(cbWspolnik, row, 2);
-    grid->addWidget(chslubice, row, 3);
+    addRow({lblTekstStaly, edTekstStaly, cbWspolnik, chslubice});
     grid->setColumnStretch(1, 1);
     grid->setColumnStretch(3, 1);
     grid->setColumnStretch(4, 1);

@@ -45,7 +45,8 @@ protected:
 
     TTowaryObj goodsNamed(const QString &name)
     {
-        const auto found = TTowaryObj(db.connection()).SelectWhere(QStringLiteral("NAZWA"), opEqual, name);
+        const auto found
+            = TTowaryObj(db.connection()).SelectWhere(QStringLiteral("NAZWA"), opEqual, name);
         return found.empty() ? TTowaryObj(db.connection()) : found.front();
     }
 

@@ -123,7 +123,7 @@ TEST_F(OrderEditor, SavingANewOrderWritesTheFieldsTheSessionUserAndTheFirstNumbe
     });
     EXPECT_EQ(result, TfrmRODefault::mrOk);
     ASSERT_EQ(db.count(QStringLiteral("ZLECENIA_PRZYCH")), 1);
-    const TZlecenia_przychObj o = stored(lastKey("ZLECENIA_PRZYCH", "ID_ZLECENIA_PRZYCH"));
+    const TZlecenia_przychObj o = lastOrder();
     EXPECT_EQ(o.IDUSER, SessionUser);
     EXPECT_EQ(o.NUMER, 1);
     EXPECT_EQ(o.IDKONTRAHENTA, client);
@@ -184,7 +184,7 @@ TEST_F(OrderEditor, ByTariffEachRateProductIsRoundedAndTheAmountGoesToZero)
         EXPECT_EQ(e.lblStawkaRazem->text(), "153,53");
         e.btnOk->click();
     });
-    const TZlecenia_przychObj o = stored(lastKey("ZLECENIA_PRZYCH", "ID_ZLECENIA_PRZYCH"));
+    const TZlecenia_przychObj o = lastOrder();
     EXPECT_DOUBLE_EQ(o.STAWKA_RAZEM, 153.53);
     EXPECT_DOUBLE_EQ(o.KWOTA, 0.0);
     EXPECT_DOUBLE_EQ(o.STAWKA_KMLAD, 1.235);
@@ -341,6 +341,6 @@ TEST_F(OrderEditor, TheDescriptionKeepsAtMost255Characters)
         EXPECT_EQ(e.memOpisDod->toPlainText().size(), 255);
         e.btnOk->click();
     });
-    EXPECT_EQ(stored(lastKey("ZLECENIA_PRZYCH", "ID_ZLECENIA_PRZYCH")).DODATKOWY_OPIS,
+    EXPECT_EQ(lastOrder().DODATKOWY_OPIS,
               QString(255, u'ż'));
 }

@@ -125,8 +125,7 @@ TEST_F(OrderPricing, TheRevenueTariffComesFromOwnTariffsAndBringsItsFourRates)
     pickInRegister(own, 1);
     e->acTaryfa->trigger();
     e->btnOk->click();
-    const auto saved = IncomingOrderStatements::load(db.connection(),
-                                                     lastKey("ZLECENIA_PRZYCH", "ID_ZLECENIA_PRZYCH"));
+    const auto saved = lastOrder();
     EXPECT_EQ(saved.IDTARYFY, own);
     EXPECT_DOUBLE_EQ(saved.STAWKA_RAZEM, 203.5);
 }
@@ -146,8 +145,7 @@ TEST_F(OrderPricing, TheCostTariffKeepsOnlyKeyAndNameAndPricesTheCarrierCost)
     EXPECT_DOUBLE_EQ(e->edStawkaKMLadowny->value(), 0.0);
     EXPECT_EQ(e->lblStawkaRazem->text(), "500,00");
     e->btnOk->click();
-    const auto saved = IncomingOrderStatements::load(db.connection(),
-                                                     lastKey("ZLECENIA_PRZYCH", "ID_ZLECENIA_PRZYCH"));
+    const auto saved = lastOrder();
     EXPECT_EQ(saved.IDTARYFYKOSZT, carriers);
     EXPECT_DOUBLE_EQ(saved.KOSZTRAZEM, 230.0);
 }
@@ -168,9 +166,12 @@ TEST_F(OrderPricing, CancellingTheTariffRegisterChangesNothing)
 
 TEST_F(OrderPricing, APriceListEntryFillsTheAgreedAmountFromTheLookUp)
 {
-    db.exec(QStringLiteral("INSERT INTO CENNIKI_KRAJ_WIERSZE (ZAKRES_WOD, ZAKRES_WDO) VALUES (0, 100)"));
-    db.exec(QStringLiteral("INSERT INTO CENNIKI_KRAJ_KOLUMNY (ZAKRES_KOD, ZAKRES_KDO) VALUES (0, 24000)"));
-    db.exec(QStringLiteral("INSERT INTO CENNIKI_KRAJ_GRUPY (NAZWA, BLOKADA) VALUES ('Kluczowi', 0)"));
+    db.exec(QStringLiteral(
+        "INSERT INTO CENNIKI_KRAJ_WIERSZE (ZAKRES_WOD, ZAKRES_WDO) VALUES (0, 100)"));
+    db.exec(QStringLiteral(
+        "INSERT INTO CENNIKI_KRAJ_KOLUMNY (ZAKRES_KOD, ZAKRES_KDO) VALUES (0, 24000)"));
+    db.exec(QStringLiteral(
+        "INSERT INTO CENNIKI_KRAJ_GRUPY (NAZWA, BLOKADA) VALUES ('Kluczowi', 0)"));
     db.exec(QStringLiteral("INSERT INTO CENNIKI_KRAJ_GRUPY (NAZWA, BLOKADA) VALUES ('Stary', 1)"));
     const int key = lastKey("CENNIKI_KRAJ_GRUPY", "ID_CENNIKI_KRAJ_GRUPY") - 1;
     const int row = lastKey("CENNIKI_KRAJ_WIERSZE", "ID_CENNIKI_KRAJ_WIERSZE");

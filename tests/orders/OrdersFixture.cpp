@@ -1,5 +1,6 @@
 #include "OrdersFixture.h"
 
+#include "IncomingOrderStatements.h"
 #include "SessionContext.h"
 #include "Statement.h"
 #include "TKontrahenciObj.h"
@@ -20,6 +21,13 @@ void OrdersFixture::TearDown()
 int OrdersFixture::lastKey(const QString &table, const QString &key)
 {
     return db.scalar(QStringLiteral("SELECT MAX(%1) FROM %2").arg(key, table)).toInt();
+}
+
+TZlecenia_przychObj OrdersFixture::lastOrder()
+{
+    return IncomingOrderStatements::load(
+        db.connection(),
+        lastKey(QStringLiteral("ZLECENIA_PRZYCH"), QStringLiteral("ID_ZLECENIA_PRZYCH")));
 }
 
 int OrdersFixture::addContractor(const QString &shortName)
@@ -65,7 +73,8 @@ int OrdersFixture::addUnit(const QString &name)
 void OrdersFixture::setOwner(int contractorKey)
 {
     Statement st(db.connection());
-    st.add(QStringLiteral("INSERT INTO KONFIGURACJA (POLE, TYP, VALUE_INT) VALUES (:aPole, 'I', :aInt)"));
+    st.add(QStringLiteral(
+        "INSERT INTO KONFIGURACJA (POLE, TYP, VALUE_INT) VALUES (:aPole, 'I', :aInt)"));
     st.bind(QStringLiteral("aPole"), QStringLiteral("IDWłaściciela"));
     st.bind(QStringLiteral("aInt"), contractorKey);
     st.exec();

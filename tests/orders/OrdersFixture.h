@@ -1,5 +1,6 @@
 #pragma once
 
+#include "TZlecenia_przychObj.h"
 #include "TestDatabase.h"
 
 #include <QComboBox>
@@ -25,6 +26,8 @@ protected:
     void setOwner(int contractorKey);
     void addFilter(const QString &text);
     int lastKey(const QString &table, const QString &key);
+    // The order inserted last, read back with every column.
+    TZlecenia_przychObj lastOrder();
 
     // Chooses the item carrying the key as a user does, so that the
     // list's "activated" reactions run.
