@@ -29,6 +29,11 @@ int currentKey(const QComboBox *combo)
     return combo->currentIndex() < 0 ? 0 : combo->currentData().toInt();
 }
 
+int currentKeyOr(const QComboBox *combo, int fallback)
+{
+    return combo->currentIndex() < 0 ? fallback : combo->currentData().toInt();
+}
+
 bool selectKey(QComboBox *combo, int key)
 {
     const int index = combo->findData(key);

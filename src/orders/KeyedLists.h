@@ -22,6 +22,10 @@ void fillSorted(QComboBox *combo, std::vector<Entry> entries);
 // The key of the chosen item; 0 when nothing is chosen.
 int currentKey(const QComboBox *combo);
 
+// The key of the chosen item; the fallback when nothing is chosen, which a
+// drop-down list only shows for a key that was not among its items.
+int currentKeyOr(const QComboBox *combo, int fallback);
+
 // Chooses the item carrying the key; nothing is chosen when none does.
 // Returns whether an item was found.
 bool selectKey(QComboBox *combo, int key);

@@ -213,8 +213,7 @@ void TfrmAddEditZlecenia_Przych::showOrder()
     memOpisDod->setPlainText(o.DODATKOWY_OPIS);
     showUnclipped(ceRabat, o.RABAT);
     showUnclipped(ceOplataSkarbowa, o.OPLATA_SKARBOWA);
-    if (!KeyedLists::selectKey(cbWspolnik, o.FILTR1))
-        KeyedLists::selectKey(cbWspolnik, 0);
+    KeyedLists::selectKey(cbWspolnik, o.FILTR1);
     chslubice->setChecked(o.FILTR2 != 0);
     recomputeTotal();
 }
@@ -358,11 +357,12 @@ bool TfrmAddEditZlecenia_Przych::collectOrder()
     TZlecenia_przychObj &o = m_order;
     o.NUMER = seNumerKolejny->value();
     o.NUMER_OBCY = edPrzeladunek->text();
-    o.IDKONTRAHENTA = KeyedLists::currentKey(cbKlient);
-    o.IDPRZEWOZNIK = KeyedLists::currentKey(cbPrzewoznik);
-    o.IDMIASTO_OD = KeyedLists::currentKey(cbMiastoOd);
-    o.IDMIASTO_VIA = KeyedLists::currentKey(cbMiastoPrzez);
-    o.IDMIASTO_DO = KeyedLists::currentKey(cbMiastoDo);
+    // A contractor or city no longer in its list stays as the order had it.
+    o.IDKONTRAHENTA = KeyedLists::currentKeyOr(cbKlient, o.IDKONTRAHENTA);
+    o.IDPRZEWOZNIK = KeyedLists::currentKeyOr(cbPrzewoznik, o.IDPRZEWOZNIK);
+    o.IDMIASTO_OD = KeyedLists::currentKeyOr(cbMiastoOd, o.IDMIASTO_OD);
+    o.IDMIASTO_VIA = KeyedLists::currentKeyOr(cbMiastoPrzez, o.IDMIASTO_VIA);
+    o.IDMIASTO_DO = KeyedLists::currentKeyOr(cbMiastoDo, o.IDMIASTO_DO);
     o.DATA = deAwizo->value();
     o.AWIZO = ClockTime::combine(deAwizo->value(), *loading);
     o.DOSTARCZENIE = ClockTime::combine(deRozladunek->value(), *unloading);
@@ -390,7 +390,7 @@ bool TfrmAddEditZlecenia_Przych::collectOrder()
     o.NR_KARTY = edNrKarty->value();
     o.NR_LISTU = edNrListu->value();
     o.DODATKOWY_OPIS = memOpisDod->toPlainText().left(DescriptionLength);
-    o.FILTR1 = KeyedLists::currentKey(cbWspolnik);
+    o.FILTR1 = KeyedLists::currentKeyOr(cbWspolnik, o.FILTR1);
     o.FILTR2 = chslubice->isChecked() ? 1 : 0;
     if (m_mode == Add)
         o.IDUSER = session().UserID;

@@ -131,9 +131,10 @@ void TfrmAddEditZlecenia_Przych::cityChosen()
 {
     std::optional<int> kilometres;
     try {
-        kilometres = Distances::lookup(m_order.connection(), KeyedLists::currentKey(cbMiastoOd),
-                                       KeyedLists::currentKey(cbMiastoPrzez),
-                                       KeyedLists::currentKey(cbMiastoDo));
+        kilometres = Distances::lookup(
+            m_order.connection(), KeyedLists::currentKeyOr(cbMiastoOd, m_order.IDMIASTO_OD),
+            KeyedLists::currentKeyOr(cbMiastoPrzez, m_order.IDMIASTO_VIA),
+            KeyedLists::currentKeyOr(cbMiastoDo, m_order.IDMIASTO_DO));
     } catch (const DbError &error) {
         Messages::error(error.message());
     }

@@ -291,6 +291,28 @@ TEST_F(OrderEditor, ATimeThatDoesNotConvertStopsTheSaveBeforeAnythingIsWritten)
     EXPECT_EQ(db.count(QStringLiteral("ZLECENIA_PRZYCH")), 1);
 }
 
+TEST_F(OrderEditor, AContractorOrCityGoneFromItsListStaysWithTheOrder)
+{
+    TZlecenia_przychObj order(db.connection());
+    order.IDKONTRAHENTA = 999;
+    order.IDPRZEWOZNIK = carrier;
+    order.IDMIASTO_DO = 888;
+    order.FILTR1 = 77;
+    order.NR_LISTU = 654321;   // beyond what the field lets a user type
+    const int key = insertOrder(order);
+    run(key, Editor::Edit, [&](Editor &e) {
+        EXPECT_EQ(e.cbKlient->currentIndex(), -1);
+        EXPECT_EQ(e.edNrListu->value(), 654321);
+        e.btnOk->click();
+    });
+    const TZlecenia_przychObj o = stored(key);
+    EXPECT_EQ(o.IDKONTRAHENTA, 999);
+    EXPECT_EQ(o.IDPRZEWOZNIK, carrier);
+    EXPECT_EQ(o.IDMIASTO_DO, 888);
+    EXPECT_EQ(o.FILTR1, 77);
+    EXPECT_EQ(o.NR_LISTU, 654321);
+}
+
 TEST_F(OrderEditor, CancelWritesNothing)
 {
     TZlecenia_przychObj order(db.connection());
