@@ -51,6 +51,26 @@ void showUnclipped(Field *field, Value value)
     field->setValue(value);
 }
 
+// A pricing group is either an agreed amount or a tariff, never both.
+void enablePricing(const QRadioButton *agreed, TNumberEdit *amount, QLineEdit *tariff)
+{
+    amount->setEnabled(agreed->isChecked());
+    tariff->setEnabled(!agreed->isChecked());
+}
+
+// The user switched the group: the side left behind is emptied.
+void switchPricing(const QRadioButton *agreed, TNumberEdit *amount, QLineEdit *tariff,
+                   int &tariffKey)
+{
+    if (agreed->isChecked()) {
+        tariffKey = 0;
+        tariff->clear();
+    } else {
+        amount->setValue(0.0);
+    }
+    enablePricing(agreed, amount, tariff);
+}
+
 UnitRates tariffRates(const TTaryfyprzewoznikaObj &tariff)
 {
     return {tariff.KWOTA_ZA_KM_LAD, tariff.KWOTA_ZA_KM, tariff.KWOTA_ZA_GODZ,
@@ -252,39 +272,23 @@ void TfrmAddEditZlecenia_Przych::recomputeTotal()
 
 void TfrmAddEditZlecenia_Przych::applyRevenueMode()
 {
-    const bool agreed = rbStawkaUmowna->isChecked();
-    seKwota->setEnabled(agreed);
-    ceTaryfa->setEnabled(!agreed);
+    enablePricing(rbStawkaUmowna, seKwota, ceTaryfa);
 }
 
 void TfrmAddEditZlecenia_Przych::applyCostMode()
 {
-    const bool agreed = rbKosztUmowna->isChecked();
-    seKosztKwota->setEnabled(agreed);
-    ceKosztTaryfa->setEnabled(!agreed);
+    enablePricing(rbKosztUmowna, seKosztKwota, ceKosztTaryfa);
 }
 
 void TfrmAddEditZlecenia_Przych::rbStawkaClick()
 {
-    if (rbStawkaUmowna->isChecked()) {
-        m_tariffKey = 0;
-        ceTaryfa->clear();
-    } else {
-        seKwota->setValue(0.0);
-    }
-    applyRevenueMode();
+    switchPricing(rbStawkaUmowna, seKwota, ceTaryfa, m_tariffKey);
     recomputeTotal();
 }
 
 void TfrmAddEditZlecenia_Przych::rbKosztClick()
 {
-    if (rbKosztUmowna->isChecked()) {
-        m_costTariffKey = 0;
-        ceKosztTaryfa->clear();
-    } else {
-        seKosztKwota->setValue(0.0);
-    }
-    applyCostMode();
+    switchPricing(rbKosztUmowna, seKosztKwota, ceKosztTaryfa, m_costTariffKey);
 }
 
 void TfrmAddEditZlecenia_Przych::carrierChosen()
