@@ -12,13 +12,14 @@ build: setup
 	cmake --build $(BUILD) -j $(JOBS)
 
 run: build
-	$(BUILD)/bin/haulix-admin demo
+	$(BUILD)/bin/haulix
 
 test: build
 	cd $(BUILD) && QT_QPA_PLATFORM=offscreen ctest --output-on-failure -j $(JOBS)
 
 bench: build
 	$(BUILD)/bin/haulix-bench
+	$(BUILD)/bin/haulix-bench-register
 
 clean:
 	rm -rf $(BUILD)

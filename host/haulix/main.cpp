@@ -53,8 +53,10 @@ bool userExists(Connection &connection, int userId)
 int main(int argc, char **argv)
 {
     if (!haveDisplay()) {
-        QTextStream(stderr) << "Brak ekranu (zmienna DISPLAY nie jest ustawiona).\n"
-                               "Aby uruchomić bez ekranu: QT_QPA_PLATFORM=offscreen haulix ...\n";
+        QTextStream(stderr)
+            << "Brak ekranu (zmienna DISPLAY nie jest ustawiona).\n"
+               "Aby uruchomić bez ekranu: xvfb-run haulix ... (ekran wirtualny, pakiet xvfb)\n"
+               "albo QT_QPA_PLATFORM=offscreen haulix ... (okno niewidoczne).\n";
         return 1;
     }
     QApplication app(argc, argv);
@@ -64,7 +66,8 @@ int main(int argc, char **argv)
     QLocale::setDefault(QLocale(QLocale::Polish, QLocale::Poland));
 
     QString error;
-    const std::optional<HostOptions> options = HostOptions::parse(QApplication::arguments().mid(1), error);
+    const std::optional<HostOptions> options
+        = HostOptions::parse(QApplication::arguments().mid(1), error);
     if (!options)
         return fail(error);
 
@@ -72,20 +75,26 @@ int main(int argc, char **argv)
     QString target = options->database;
     try {
         if (target.isEmpty()) {
-            target = DemoDatabase::ensure([](const QString &message) { QTextStream(stdout) << message << '\n'; });
+            target = DemoDatabase::ensure(
+                [](const QString &message) { QTextStream(stdout) << message << '\n'; });
         }
         connection.open(target);
         if (!userExists(connection, options->userId))
-            return fail(QStringLiteral("Nieznany użytkownik %1 w bazie %2.").arg(options->userId).arg(target));
+            return fail(QStringLiteral("Nieznany użytkownik %1 w bazie %2.")
+                            .arg(options->userId)
+                            .arg(target));
     } catch (const DbError &e) {
         return fail(e.message());
     }
 
-    const QString libraryPath = QDir(QApplication::applicationDirPath())
-                                    .filePath(QStringLiteral("Library/") + QLatin1String(ModuleEntryPoints::LibraryName));
+    const QString libraryPath
+        = QDir(QApplication::applicationDirPath())
+              .filePath(QStringLiteral("Library/") + QLatin1String(ModuleEntryPoints::LibraryName));
     QLibrary module(libraryPath);
-    if (!module.load())
-        return fail(QStringLiteral("Nie można załadować modułu %1: %2").arg(libraryPath, module.errorString()));
+    if (!module.load()) {
+        return fail(QStringLiteral("Nie można załadować modułu %1: %2")
+                        .arg(libraryPath, module.errorString()));
+    }
     const char *entryName = options->partnersReport ? ModuleEntryPoints::PartnersReport
                                                     : ModuleEntryPoints::IncomingOrders;
     const auto entry = reinterpret_cast<ModuleEntry>(module.resolve(entryName));
@@ -94,13 +103,19 @@ int main(int argc, char **argv)
                         .arg(module.fileName(), QLatin1String(entryName)));
     }
 
+    // Statements of the module commit as they run; its all-or-nothing work
+    // brackets itself with scopes on this transaction. Whatever is still
+    // open when the register closes is committed here.
     Transaction transaction(connection);
-    const std::int32_t result = entry(options->userId, &connection, &transaction);
+    std::int32_t result = 0;
     try {
+        result = entry(options->userId, &connection, &transaction);
         if (transaction.InTransaction())
             transaction.Commit();
     } catch (const DbError &e) {
         return fail(e.message());
+    } catch (const std::exception &e) {
+        return fail(QString::fromLocal8Bit(e.what()));
     }
     connection.close();
     return result == 1 || result == 2 ? 0 : 1;

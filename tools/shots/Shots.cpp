@@ -5,6 +5,7 @@
 void registerShots(ShotBook &book)
 {
     addFrameworkShots(book);
+    addRegisterShots(book);
     addReportShots(book);
     addPricingShots(book);
     addOrdersShots(book);

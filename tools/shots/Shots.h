@@ -8,6 +8,9 @@ void registerShots(ShotBook &book);
 // The framework's own forms.
 void addFrameworkShots(ShotBook &book);
 
+// The incoming orders register.
+void addRegisterShots(ShotBook &book);
+
 // A sample page of the report engine.
 void addReportShots(ShotBook &book);
 

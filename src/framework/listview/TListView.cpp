@@ -4,6 +4,7 @@
 
 #include <QHeaderView>
 #include <QMouseEvent>
+#include <QPainter>
 
 TListView::TListView(QWidget *parent) : QTreeView(parent), m_model(new TListViewModel(this))
 {
@@ -166,4 +167,29 @@ void TListView::changeEvent(QEvent *event)
     if (event->type() == QEvent::FontChange)
         m_model->setBaseFont(font());
     QTreeView::changeEvent(event);
+}
+
+void TListView::setGridLines(bool on)
+{
+    m_gridLines = on;
+    viewport()->update();
+}
+
+void TListView::drawRow(QPainter *painter, const QStyleOptionViewItem &option,
+                        const QModelIndex &index) const
+{
+    QTreeView::drawRow(painter, option, index);
+    if (!m_gridLines)
+        return;
+    const QRect row = option.rect;
+    painter->save();
+    painter->setPen(QColor(0xD4, 0xD4, 0xD4));
+    painter->drawLine(row.bottomLeft(), row.bottomRight());
+    for (int column = 0; column < header()->count(); ++column) {
+        if (header()->isSectionHidden(column))
+            continue;
+        const int right = columnViewportPosition(column) + header()->sectionSize(column) - 1;
+        painter->drawLine(right, row.top(), right, row.bottom());
+    }
+    painter->restore();
 }

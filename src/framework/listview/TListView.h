@@ -33,6 +33,10 @@ public:
     // The header picture of a column from the image list; -1 for none.
     void setColumnImage(int column, int image) { m_model->setColumnImage(column, image); }
     int columnImage(int column) const { return m_model->columnImage(column); }
+    void setColumnAlignment(int column, Qt::Alignment alignment)
+    {
+        m_model->setColumnAlignment(column, alignment);
+    }
     void clearColumnImages();
     // Number of columns that are not hidden.
     int visibleColumnCount() const;
@@ -51,6 +55,8 @@ public:
     // Selects the row and makes it current; -1 clears the selection.
     void setSelectedIndex(int row);
     int findByKey(int key) const { return m_model->findKey(key); }
+    // Removes one row; the rows after it move up.
+    void deleteItem(int row) { m_model->removeRow(row); }
     // Selects the row with the key and scrolls it into view; false when no
     // row holds it.
     bool selectByKey(int key);
@@ -76,6 +82,10 @@ public:
     // The generic sort of plain lists: case-insensitive text of the column.
     void sortByText(int column) { sortRows(column, SortKind::Text); }
 
+    // Lines between the cells, as a report list with grid lines shows them.
+    bool gridLines() const { return m_gridLines; }
+    void setGridLines(bool on);
+
     // Makes the list repaint every row, after what it draws depends on has
     // changed (the bold column, for example).
     void repaintRows();
@@ -87,6 +97,8 @@ Q_SIGNALS:
 protected:
     void mouseDoubleClickEvent(QMouseEvent *event) override;
     void changeEvent(QEvent *event) override;
+    void drawRow(QPainter *painter, const QStyleOptionViewItem &option,
+                 const QModelIndex &index) const override;
 
 private:
     TListViewModel *m_model;
@@ -94,4 +106,5 @@ private:
     int m_tag = -1;
     int m_selectedBeforeUpdate = -1;
     bool m_clearedInUpdate = false;
+    bool m_gridLines = false;
 };

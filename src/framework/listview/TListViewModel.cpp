@@ -56,6 +56,18 @@ void TListViewModel::setColumnImage(int column, int image)
     Q_EMIT headerDataChanged(Qt::Horizontal, column, column);
 }
 
+Qt::Alignment TListViewModel::columnAlignment(int column) const
+{
+    return m_columns.at(column).alignment;
+}
+
+void TListViewModel::setColumnAlignment(int column, Qt::Alignment alignment)
+{
+    m_columns.at(column).alignment = alignment | Qt::AlignVCenter;
+    if (!updating() && !m_rows.empty())
+        Q_EMIT dataChanged(index(0, column), index(rows() - 1, column));
+}
+
 void TListViewModel::clearColumns()
 {
     beginResetModel();
@@ -125,6 +137,19 @@ int TListViewModel::findKey(int key) const
             return row;
     }
     return -1;
+}
+
+void TListViewModel::removeRow(int row)
+{
+    if (row < 0 || row >= rows())
+        return;
+    if (updating()) {
+        m_rows.erase(m_rows.begin() + row);
+        return;
+    }
+    beginRemoveRows(QModelIndex(), row, row);
+    m_rows.erase(m_rows.begin() + row);
+    endRemoveRows();
 }
 
 void TListViewModel::clearRows()
@@ -214,6 +239,8 @@ QVariant TListViewModel::data(const QModelIndex &index, int role) const
         if (index.column() == 0 && m_images && m_rows[index.row()].image >= 0)
             return m_images->icon(m_rows[index.row()].image);
         return {};
+    case Qt::TextAlignmentRole:
+        return m_columns[index.column()].alignment.toInt();
     case Qt::FontRole:
         if (m_boldColumn && m_boldColumn() == index.column())
             return m_boldFont;

@@ -29,6 +29,9 @@ public:
     void setColumnTag(int column, int tag);
     int columnImage(int column) const;
     void setColumnImage(int column, int image);
+    // How the column's cells are aligned; left unless set.
+    Qt::Alignment columnAlignment(int column) const;
+    void setColumnAlignment(int column, Qt::Alignment alignment);
     void clearColumns();
 
     // Rows: texts[0] is the caption, the rest the sub-items.
@@ -45,6 +48,7 @@ public:
     void setImage(int row, int image);
     // The first position holding the key, -1 when none does.
     int findKey(int key) const;
+    void removeRow(int row);
     void clearRows();
 
     // Between these, changes send no per-row notifications; the views are
@@ -75,6 +79,7 @@ private:
         QString caption;
         int tag = 0;
         int image = -1;
+        Qt::Alignment alignment = Qt::AlignLeft | Qt::AlignVCenter;
     };
     struct Row
     {

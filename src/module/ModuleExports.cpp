@@ -1,0 +1,15 @@
+// The functions the module exports to the host; nothing else leaves it.
+#include "ModuleEntryPoints.h"
+#include "RunZlecPrzychodzace.h"
+
+#include <QtGlobal>
+
+#include <type_traits>
+
+extern "C" Q_DECL_EXPORT std::int32_t Run_ZlecPrzychodzace(std::int32_t UserID,
+                                                          Connection *Database,
+                                                          Transaction *Transaction)
+{
+    static_assert(std::is_same_v<decltype(&Run_ZlecPrzychodzace), ModuleEntry>);
+    return runZlecPrzychodzace(UserID, Database, Transaction);
+}

@@ -1,0 +1,35 @@
+#pragma once
+
+#include <QStringList>
+
+class Statement;
+
+// One order as the register lists it.
+struct OrderListRow
+{
+    QStringList texts;   // the column texts, the caption ("Numer") first
+    int key = 0;         // ID_ZLECENIA_PRZYCH
+    bool closed = false;
+    double revenue = 0.0;
+};
+
+// Turns the rows of the register's statement (the view VZLECENIA_PRZYCH)
+// into list rows. The columns are looked up once, when the reader is made
+// on the executed statement; read() then takes the current row.
+class OrderListReader
+{
+public:
+    explicit OrderListReader(const Statement &statement);
+
+    OrderListRow read() const;
+
+private:
+    int column(const char *name) const;
+
+    const Statement &m_statement;
+    int m_key, m_numer, m_kontrahent, m_przewoznik, m_kierowca, m_numerObcy, m_data;
+    int m_miastoOd, m_miastoVia, m_miastoDo, m_nrFaktury, m_nrKarty, m_nrListu, m_pojazd;
+    int m_numerObcaFak, m_kosztRazem, m_kwota, m_kmLadowne, m_stawkaKmLad, m_kmPuste;
+    int m_stawkaKmPusty, m_iloscGodzin, m_stawkaGodziny, m_paletyIlosc, m_stawkaPalety;
+    int m_kwotaObcaFakt, m_operator, m_filtr1, m_idKontrahent, m_idPrzewoznik, m_zamkniete;
+};

@@ -1,0 +1,98 @@
+#include "DemoSeeder.h"
+#include "TestDatabase.h"
+
+#include <QDir>
+#include <QFile>
+#include <QProcess>
+#include <QTemporaryDir>
+
+#include <gtest/gtest.h>
+
+namespace {
+
+struct HostRun
+{
+    int exitCode = -1;
+    QString errors;
+};
+
+// Runs the host offscreen and waits for it to end.
+HostRun runHost(const QString &program, const QStringList &arguments)
+{
+    QProcess host;
+    QProcessEnvironment env = QProcessEnvironment::systemEnvironment();
+    env.insert(QStringLiteral("QT_QPA_PLATFORM"), QStringLiteral("offscreen"));
+    host.setProcessEnvironment(env);
+    host.start(program, arguments);
+    EXPECT_TRUE(host.waitForFinished(60000)) << "the host did not end";
+    return {host.exitCode(), QString::fromUtf8(host.readAllStandardError())};
+}
+
+const QString Host = QStringLiteral(HAULIX_HOST_PATH);
+
+void seedSmallDemo(TestDatabase &db)
+{
+    DemoSeeder::Options options;
+    options.orders = 5;
+    DemoSeeder(db.connection(), options).seed();
+}
+
+} // namespace
+
+TEST(Host, ADatabaseThatCannotBeOpenedIsNamedWithTheReason)
+{
+    const HostRun run = runHost(Host, {QStringLiteral("--db"), QStringLiteral("/nie/ma/baza.fdb")});
+    EXPECT_EQ(run.exitCode, 1);
+    EXPECT_TRUE(run.errors.contains(
+        "Nie można otworzyć bazy danych /nie/ma/baza.fdb: plik nie istnieje."))
+        << run.errors.toStdString();
+}
+
+TEST(Host, AnUnknownUserIsRefused)
+{
+    TestDatabase db;
+    seedSmallDemo(db);
+    const HostRun run = runHost(Host, {QStringLiteral("--db"), db.path(), QStringLiteral("--user"),
+                                   QStringLiteral("99")});
+    EXPECT_EQ(run.exitCode, 1);
+    EXPECT_TRUE(run.errors.contains("Nieznany użytkownik 99 w bazie " + db.path()))
+        << run.errors.toStdString();
+}
+
+TEST(Host, AWrongArgumentShowsTheUsage)
+{
+    const HostRun run = runHost(Host, {QStringLiteral("--uzytkownik"), QStringLiteral("1")});
+    EXPECT_EQ(run.exitCode, 1);
+    EXPECT_TRUE(run.errors.contains("Nieznany argument: --uzytkownik"));
+    EXPECT_TRUE(run.errors.contains("Użycie: haulix"));
+}
+
+TEST(Host, AMissingModuleIsNamedWithItsFullPath)
+{
+    TestDatabase db;
+    seedSmallDemo(db);
+    // The program alone, without the Library folder beside it.
+    QTemporaryDir alone;
+    const QString copy = alone.filePath(QStringLiteral("haulix"));
+    ASSERT_TRUE(QFile::copy(Host, copy));
+    const HostRun run = runHost(copy, {QStringLiteral("--db"), db.path()});
+    EXPECT_EQ(run.exitCode, 1);
+    EXPECT_TRUE(run.errors.contains("Nie można załadować modułu "
+                                    + QDir(alone.path()).filePath("Library/IncomingOrders")))
+        << run.errors.toStdString();
+}
+
+TEST(Host, WithoutADisplayItSaysHowToRunHeadless)
+{
+    QProcessEnvironment environment = QProcessEnvironment::systemEnvironment();
+    for (const char *name : {"DISPLAY", "WAYLAND_DISPLAY", "QT_QPA_PLATFORM"})
+        environment.remove(QString::fromLatin1(name));
+    QProcess host;
+    host.setProcessEnvironment(environment);
+    host.start(Host, {});
+    ASSERT_TRUE(host.waitForFinished(60000));
+    const QString errors = QString::fromUtf8(host.readAllStandardError());
+    EXPECT_EQ(host.exitCode(), 1);
+    EXPECT_TRUE(errors.contains("Brak ekranu")) << errors.toStdString();
+    EXPECT_TRUE(errors.contains("xvfb-run haulix"));
+}

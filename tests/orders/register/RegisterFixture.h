@@ -1,0 +1,43 @@
+#pragma once
+
+#include "TZlecenia_przychObj.h"
+#include "TestDatabase.h"
+#include "Transaction.h"
+#include "ZlecPrzychodzace.h"
+
+#include <gtest/gtest.h>
+
+#include <functional>
+#include <memory>
+
+// A seeded demo company (users 1 all rights, 2 no delete, 3 run only) with
+// the session set to user 1 on the test's connection and transaction.
+class RegisterFixture : public testing::Test
+{
+protected:
+    static constexpr int DemoOrders = 20;
+
+    void SetUp() override;
+    void TearDown() override;
+
+    std::unique_ptr<TfrmZlecPrzychodzace> openRegister();
+    void setUser(int userId);
+
+    // Inserts an order dated today (unless the change says otherwise) and
+    // returns its key.
+    int addOrder(const std::function<void(TZlecenia_przychObj &)> &change = {});
+    TZlecenia_przychObj order(int key);
+    int orderCount();
+    // How many orders the register lists with its initial range, a month
+    // either side of today (and every undated order), that also meet the
+    // condition.
+    int listedCount(const QString &condition = QStringLiteral("1=1"));
+
+    // The text of a column in the row of an order; fails when not listed.
+    static QString cell(const TfrmZlecPrzychodzace &form, int orderKey, int column);
+    static bool listed(const TfrmZlecPrzychodzace &form, int orderKey);
+    static void select(TfrmZlecPrzychodzace &form, int orderKey);
+
+    TestDatabase db;
+    Transaction transaction{db.connection()};
+};

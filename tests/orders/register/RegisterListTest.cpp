@@ -1,0 +1,278 @@
+#include "Format.h"
+#include "LVFrame.h"
+#include "OrderListColumns.h"
+#include "RegisterFixture.h"
+#include "Statement.h"
+#include "TImageList.h"
+#include "TRadioGroup.h"
+
+#include <QComboBox>
+#include <QDateEdit>
+#include <QLabel>
+
+namespace {
+
+using Col = OrderListColumns::Column;
+
+QString amount(const char *text)
+{
+    return QString::fromUtf8(text).replace(u' ', Format::ThousandSeparator);
+}
+
+} // namespace
+
+class RegisterList : public RegisterFixture
+{
+};
+
+TEST_F(RegisterList, ShowsTheWindowWithItsColumnsAndTotal)
+{
+    const auto form = openRegister();
+    EXPECT_EQ(form->windowTitle(), "Zlecenia przewozowe");
+    EXPECT_EQ(form->lblHeader->text(), "Zlecenia przewozowe w ruchu krajowym");
+    EXPECT_EQ(form->minimumWidth(), 712);
+    EXPECT_EQ(form->btnOk->text(), "&Zamknij");
+    const TListView *list = form->frameListView1->lvMain;
+    const QStringList expected{
+        "Numer",      "Zleceniodawca", "Przewoźnik", "Kierowca",  "ZlecObce",      "Data załad",
+        "Trasa",      "Faktura",       "Nr.karty",   "Nr.listu",  "Nr.rej",        "Fakt.Przew",
+        "Koszt",      "Przychod",      "Różnica",    "FaktPrzew", "Operator",      "Filtr",
+        "IdKontrahenta", "IdPrzewoźnika", "IDZlecenia"};
+    ASSERT_EQ(list->columnCount(), expected.size());
+    for (int column = 0; column < list->columnCount(); ++column)
+        EXPECT_EQ(list->columnCaption(column), expected[column]);
+    EXPECT_EQ(list->columnWidth(Col::Przewoznik), 160);
+    EXPECT_EQ(list->columnWidth(Col::Operator), 80);
+    EXPECT_TRUE(list->items().columnAlignment(Col::Przychod) & Qt::AlignRight);
+    EXPECT_TRUE(list->items().columnAlignment(Col::Trasa) & Qt::AlignLeft);
+
+    // The templates have no date and are listed too.
+    EXPECT_EQ(list->itemCount(), listedCount());
+    EXPECT_GT(db.count(QStringLiteral("ZLECENIA_PRZYCH"), QStringLiteral("DATA IS NULL")), 0);
+    EXPECT_EQ(form->lblKwota->text(), Format::number(form->total(), u"#,##0.00"));
+    EXPECT_GT(form->total(), 0.0);
+    EXPECT_TRUE(form->KartaZeZlecen());
+}
+
+TEST_F(RegisterList, FillsEveryColumnOfAnOrder)
+{
+    db.exec(QStringLiteral("UPDATE KONTRAHENCI SET SKROT = 'KLIENT-X' WHERE ID_KONTRAHENTA = 2"));
+    db.exec(QStringLiteral("INSERT INTO FAKTURY (ID_FAKTURY, NR_KOLEJNY) VALUES (900, 12)"));
+    const int key = addOrder([](TZlecenia_przychObj &o) {
+        o.DATA = DateTime::fromDate(QDate(2026, 3, 9));
+        o.NUMER = 42;
+        o.KIEROWCA = QStringLiteral("Jan Wąs");
+        o.NUMER_OBCY = QStringLiteral("ZK/7");
+        o.IDFAKTURY = 900;
+        o.NR_KARTY = 31;
+        o.NR_LISTU = 7;
+        o.POJAZD = QStringLiteral("EL 12345");
+        o.NUMER_FAKT_PRZEW = QStringLiteral("FV/1/2026");
+        o.KOSZTRAZEM = 800.5;
+        o.KWOTA = 1000.0;
+        o.KWOTA_FAKT_PRZEW = 984.615;
+    });
+    const auto form = openRegister();
+    form->deOd->setDate(QDate(2026, 3, 1));
+    form->frameListView1->Refresh();
+
+    EXPECT_EQ(cell(*form, key, Col::Numer), "00000042");
+    EXPECT_EQ(cell(*form, key, Col::Zleceniodawca), "KLIENT-X");
+    EXPECT_EQ(cell(*form, key, Col::Kierowca), "Jan Wąs");
+    EXPECT_EQ(cell(*form, key, Col::ZlecObce), "ZK/7");
+    EXPECT_EQ(cell(*form, key, Col::DataZaladunku), "2026-03-09");
+    EXPECT_EQ(cell(*form, key, Col::Faktura), "00012");
+    EXPECT_EQ(cell(*form, key, Col::NrKarty), "00031");
+    EXPECT_EQ(cell(*form, key, Col::NrListu), "000007");
+    EXPECT_EQ(cell(*form, key, Col::NrRej), "EL 12345");
+    EXPECT_EQ(cell(*form, key, Col::FaktPrzewoznika), "FV/1/2026");
+    EXPECT_EQ(cell(*form, key, Col::Koszt), "800,5");
+    EXPECT_EQ(cell(*form, key, Col::Przychod), amount("1 000,00"));
+    EXPECT_EQ(cell(*form, key, Col::Roznica), "199,50");
+    EXPECT_EQ(cell(*form, key, Col::KwotaFaktPrzewoznika), "984,615");
+    EXPECT_EQ(cell(*form, key, Col::Operator), "admin");
+    EXPECT_EQ(cell(*form, key, Col::IdKontrahenta), "2");
+    EXPECT_EQ(cell(*form, key, Col::IdPrzewoznika), "1");
+    EXPECT_EQ(cell(*form, key, Col::IdZlecenia), QString::number(key));
+}
+
+TEST_F(RegisterList, ShowsTheRouteThroughThreeCities)
+{
+    db.exec(QStringLiteral("INSERT INTO MIASTA (ID_MIASTA, NAZWA) VALUES (901, 'Kraków')"));
+    db.exec(QStringLiteral("INSERT INTO MIASTA (ID_MIASTA, NAZWA) VALUES (902, 'Łódź')"));
+    db.exec(QStringLiteral("INSERT INTO MIASTA (ID_MIASTA, NAZWA) VALUES (903, 'Gdańsk')"));
+    const int viaCity = addOrder([](TZlecenia_przychObj &o) {
+        o.IDMIASTO_OD = 901;
+        o.IDMIASTO_VIA = 902;
+        o.IDMIASTO_DO = 903;
+    });
+    const int direct = addOrder([](TZlecenia_przychObj &o) {
+        o.IDMIASTO_OD = 901;
+        o.IDMIASTO_DO = 903;
+    });
+    const auto form = openRegister();
+    EXPECT_EQ(cell(*form, viaCity, Col::Trasa), "Kraków-Łódź-Gdańsk");
+    EXPECT_EQ(cell(*form, direct, Col::Trasa), "Kraków--Gdańsk");
+}
+
+TEST_F(RegisterList, RevenueBelowOneWholeZlotyComesFromTheRates)
+{
+    const int key = addOrder([](TZlecenia_przychObj &o) {
+        o.KWOTA = 0.40;   // reads as 0
+        o.KM_LADOWNE = 100;
+        o.STAWKA_KMLAD = 1.255;      // 125.50
+        o.KM_PUSTE = 10.5;
+        o.STAWKA_KMPUSTY = 0.333;    // 3.4965 -> 3.50
+        o.ILOSC_GODZIN = 2.5;
+        o.STAWKA_GODZINY = 40.002;   // 100.005 -> 100.01
+        o.PALETYILOSC = 3;
+        o.STAWKA_PALETY = 12.345;    // 37.035 -> 37.04
+        o.KOSZTRAZEM = 66.05;
+    });
+    const auto form = openRegister();
+    EXPECT_EQ(cell(*form, key, Col::Przychod), "266,05");
+    EXPECT_EQ(cell(*form, key, Col::Roznica), "200,00");
+}
+
+TEST_F(RegisterList, AnAgreedAmountShowsAsAWholeNumber)
+{
+    const int key = addOrder([](TZlecenia_przychObj &o) {
+        o.KWOTA = 1234.56;
+        o.KM_LADOWNE = 100;
+        o.STAWKA_KMLAD = 2.0;
+    });
+    const auto form = openRegister();
+    EXPECT_EQ(cell(*form, key, Col::Przychod), amount("1 235,00"));
+}
+
+TEST_F(RegisterList, ZeroInvoiceShowsADashAndZeroCardShowsZeros)
+{
+    const int key = addOrder([](TZlecenia_przychObj &o) {
+        o.IDFAKTURY = 0;
+        o.NR_KARTY = 0;
+        o.NR_LISTU = 0;
+    });
+    const auto form = openRegister();
+    EXPECT_EQ(cell(*form, key, Col::Faktura), "-");
+    EXPECT_EQ(cell(*form, key, Col::NrKarty), "00000");
+    EXPECT_EQ(cell(*form, key, Col::NrListu), "000000");
+}
+
+TEST_F(RegisterList, UndatedOrdersAreListedWhateverTheRange)
+{
+    const int undated = addOrder([](TZlecenia_przychObj &o) { o.DATA = DateTime(); });
+    const int dated = addOrder();
+    const auto form = openRegister();
+    form->deOd->setDate(QDate(2001, 1, 1));
+    form->deDo->setDate(QDate(2001, 1, 31));
+    form->frameListView1->Refresh();
+    EXPECT_TRUE(listed(*form, undated));
+    EXPECT_FALSE(listed(*form, dated));
+    EXPECT_EQ(cell(*form, undated, Col::DataZaladunku), "");
+    EXPECT_EQ(form->frameListView1->lvMain->itemCount(),
+              db.count(QStringLiteral("ZLECENIA_PRZYCH"), QStringLiteral("DATA IS NULL")));
+}
+
+TEST_F(RegisterList, ClosedOrdersCarryTheClosedImage)
+{
+    const int closed = addOrder([](TZlecenia_przychObj &o) { o.ZAMKNIETE = 1; });
+    const int open = addOrder();
+    const auto form = openRegister();
+    const TListView *list = form->frameListView1->lvMain;
+    EXPECT_EQ(list->image(list->findByKey(closed)), TfrmZlecPrzychodzace::ClosedOrderImage);
+    EXPECT_EQ(list->image(list->findByKey(open)), -1);
+    EXPECT_FALSE(form->frameListView1->lvImages->icon(16).isNull());
+}
+
+TEST_F(RegisterList, TheTotalAddsTheRevenueOfTheListedRows)
+{
+    db.exec(QStringLiteral("DELETE FROM ZLECENIA_PRZYCH"));
+    addOrder([](TZlecenia_przychObj &o) { o.KWOTA = 1000.0; });
+    addOrder([](TZlecenia_przychObj &o) { o.KWOTA = 234.4; });
+    addOrder([](TZlecenia_przychObj &o) {
+        o.KWOTA = 0.0;
+        o.KM_LADOWNE = 10;
+        o.STAWKA_KMLAD = 1.5;
+    });
+    addOrder([](TZlecenia_przychObj &o) {
+        o.DATA = DateTime::fromDate(QDate(2001, 1, 1));
+        o.KWOTA = 5000.0;
+    });
+    const auto form = openRegister();
+    EXPECT_EQ(form->lblKwota->text(), amount("1 249,00"));
+}
+
+TEST_F(RegisterList, AFilterChangeWaitsForARefresh)
+{
+    const int own = addOrder([](TZlecenia_przychObj &o) { o.IDPRZEWOZNIK = 1; });
+    const int forwarded = addOrder([](TZlecenia_przychObj &o) { o.IDPRZEWOZNIK = 3; });
+    const auto form = openRegister();
+    const int all = form->frameListView1->lvMain->itemCount();
+
+    form->RadioGroup1->setItemIndex(OrderListFilter::Forwarded);
+    EXPECT_EQ(form->frameListView1->lvMain->itemCount(), all);
+    form->frameListView1->Refresh();
+    EXPECT_TRUE(listed(*form, forwarded));
+    EXPECT_FALSE(listed(*form, own));
+    EXPECT_EQ(form->frameListView1->lvMain->itemCount(),
+              listedCount(QStringLiteral("IDPRZEWOZNIK <> 1")));
+
+    form->RadioGroup1->setItemIndex(OrderListFilter::OwnHaulage);
+    form->frameListView1->Refresh();
+    EXPECT_TRUE(listed(*form, own));
+    EXPECT_FALSE(listed(*form, forwarded));
+}
+
+TEST_F(RegisterList, HiddenLocationAndPartnerFiltersNarrowTheList)
+{
+    db.exec(QStringLiteral("DELETE FROM FILTRY_PRZYCH"));
+    db.exec(QStringLiteral("INSERT INTO FILTRY_PRZYCH (ID_FILTRY_PRZYCH, NR_FILTRA, OPIS) "
+                           "VALUES (1, 1, 'Nowak')"));
+    db.exec(QStringLiteral("INSERT INTO FILTRY_PRZYCH (ID_FILTRY_PRZYCH, NR_FILTRA, OPIS) "
+                           "VALUES (2, 1, 'Zięba')"));
+    db.exec(QStringLiteral("INSERT INTO FILTRY_PRZYCH (ID_FILTRY_PRZYCH, NR_FILTRA, OPIS) "
+                           "VALUES (3, 2, 'inny')"));
+    const int branch = addOrder([](TZlecenia_przychObj &o) {
+        o.FILTR2 = 1;
+        o.FILTR1 = 2;
+    });
+    const int elsewhere = addOrder([](TZlecenia_przychObj &o) { o.FILTR1 = 1; });
+    const auto form = openRegister();
+    EXPECT_FALSE(form->RadioGroup2->isVisibleTo(form.get()));
+    EXPECT_FALSE(form->cbWspolnik->isVisibleTo(form.get()));
+    ASSERT_EQ(form->cbWspolnik->count(), 3);
+    EXPECT_EQ(form->cbWspolnik->itemText(0), "---");
+    EXPECT_EQ(form->cbWspolnik->itemText(2), "Zięba");
+    EXPECT_EQ(form->cbWspolnik->itemData(2).toInt(), 2);
+    EXPECT_EQ(form->cbWspolnik->currentIndex(), 0);
+    EXPECT_EQ(cell(*form, branch, Col::Filtr), "Zięba");
+
+    form->RadioGroup2->setItemIndex(OrderListFilter::BranchOnly);
+    form->frameListView1->Refresh();
+    EXPECT_TRUE(listed(*form, branch));
+    EXPECT_FALSE(listed(*form, elsewhere));
+
+    form->RadioGroup2->setItemIndex(OrderListFilter::OutsideBranch);
+    form->cbWspolnik->setCurrentIndex(1);
+    form->frameListView1->Refresh();
+    EXPECT_EQ(form->frameListView1->lvMain->itemCount(),
+              listedCount(QStringLiteral("FILTR2 <> 1 AND FILTR1 = 1")));
+    EXPECT_TRUE(listed(*form, elsewhere));
+    EXPECT_FALSE(listed(*form, branch));
+}
+
+TEST_F(RegisterList, TheDateRangeIsAMonthEitherSideOfToday)
+{
+    const QDate today = QDate::currentDate();
+    const int inside = addOrder([&](TZlecenia_przychObj &o) {
+        o.DATA = DateTime::fromDate(today.addMonths(-1));
+    });
+    const int outside = addOrder([&](TZlecenia_przychObj &o) {
+        o.DATA = DateTime::fromDate(today.addMonths(1).addDays(1));
+    });
+    const auto form = openRegister();
+    EXPECT_EQ(form->deOd->date(), today.addMonths(-1));
+    EXPECT_EQ(form->deDo->date(), today.addMonths(1));
+    EXPECT_TRUE(listed(*form, inside));
+    EXPECT_FALSE(listed(*form, outside));
+}

@@ -1,0 +1,59 @@
+#include "Connection.h"
+#include "DemoSeeder.h"
+#include "LVFrame.h"
+#include "Schema.h"
+#include "SessionContext.h"
+#include "ShotBook.h"
+#include "Shots.h"
+#include "Transaction.h"
+#include "ZlecPrzychodzace.h"
+
+#include <QObject>
+#include <QTemporaryDir>
+
+namespace {
+
+// A seeded demo company for the register's picture. It belongs to the form
+// it serves and puts the session back as it found it when the form goes.
+class DemoCompany : public QObject
+{
+public:
+    DemoCompany() : m_previous(session())
+    {
+        const QString path = m_dir.filePath(QStringLiteral("register.fdb"));
+        Schema::createDatabase(path);
+        m_connection.open(path);
+        DemoSeeder::Options options;
+        options.orders = 120;
+        DemoSeeder(m_connection, options).seed();
+        setSession(1, &m_connection, &m_transaction);
+    }
+    ~DemoCompany() override
+    {
+        setSession(m_previous.UserID, m_previous.Database, m_previous.Transaction);
+    }
+
+private:
+    SessionContext m_previous;
+    QTemporaryDir m_dir;
+    Connection m_connection;
+    Transaction m_transaction{m_connection};
+};
+
+std::unique_ptr<QWidget> incomingOrders()
+{
+    auto company = std::make_unique<DemoCompany>();
+    auto form = TfrmRODefault::create<TfrmZlecPrzychodzace>();
+    company.release()->setParent(form.get());
+    TListView *list = form->frameListView1->lvMain;
+    list->setSelectedIndex(std::min(5, list->itemCount() - 1));
+    return form;
+}
+
+} // namespace
+
+void addRegisterShots(ShotBook &book)
+{
+    book.add(QStringLiteral("frmZlecPrzychodzace"),
+             [](ShotContext &) { return incomingOrders(); });
+}
