@@ -45,6 +45,8 @@ TfrmTowaryNaZleceniu::TfrmTowaryNaZleceniu(QWidget *owner, int orderKey)
     list->addColumn(QStringLiteral("Ilość deklarowana"), 110);
     list->addColumn(QStringLiteral("Ilość rzeczywista"), 110);
     list->addColumn(QStringLiteral("Dodatkowy opis"), 120);
+    for (int quantity : {2, 3})
+        list->setColumnAlignment(quantity, Qt::AlignRight | Qt::AlignVCenter);
     frameListView1->numericColumns() << QStringLiteral("Ilość deklarowana")
                                      << QStringLiteral("Ilość rzeczywista");
 

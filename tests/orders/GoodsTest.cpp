@@ -77,6 +77,8 @@ TEST_F(Goods, TheListShowsTheOrdersGoodsInItsColumns)
     ASSERT_EQ(list->columnCount(), 5);
     EXPECT_EQ(list->columnCaption(2), "Ilość deklarowana");
     EXPECT_EQ(list->columnWidth(0), 200);
+    EXPECT_EQ(list->items().columnAlignment(3), Qt::AlignRight | Qt::AlignVCenter);
+    EXPECT_EQ(list->items().columnAlignment(4) & Qt::AlignHorizontal_Mask, Qt::AlignLeft);
     ASSERT_EQ(list->itemCount(), 2);
     const int row = rowOf(*form, QStringLiteral("Cement"));
     ASSERT_GE(row, 0);
