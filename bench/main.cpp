@@ -1,8 +1,9 @@
 // haulix-bench: timings of the module's heavy paths, printed as one table.
-//   haulix-bench [ROWS]
+//   haulix-bench [ROWS] [ORDERS]
 #include "BenchTimer.h"
 #include "ListViewBench.h"
 #include "OffscreenProgram.h"
+#include "OrderEditorBench.h"
 
 int main(int argc, char **argv)
 {
@@ -12,6 +13,8 @@ int main(int argc, char **argv)
 
     BenchTimer timer;
     benchListView(timer, rows > 0 ? rows : 100000);
+    const int orders = arguments.size() > 1 ? arguments.at(1).toInt() : 10000;
+    benchOrderEditor(timer, orders > 0 ? orders : 10000);
     timer.print();
     return 0;
 }

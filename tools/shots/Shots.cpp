@@ -8,4 +8,5 @@ void registerShots(ShotBook &book)
     addRegisterShots(book);
     addReportShots(book);
     addPricingShots(book);
+    addOrdersShots(book);
 }

@@ -16,3 +16,6 @@ void addReportShots(ShotBook &book);
 
 // Price lists, tariffs, cities and distances.
 void addPricingShots(ShotBook &book);
+
+// The order editor, goods, places and the template date.
+void addOrdersShots(ShotBook &book);

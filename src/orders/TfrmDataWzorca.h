@@ -1,0 +1,26 @@
+#pragma once
+
+#include "DefaultWindow.h"
+
+#include <QDate>
+
+class QDateEdit;
+class QLabel;
+
+// Asks for the day onto which the templates of incoming orders are copied.
+// Shown modally; after OK (1) the chosen day is date(). Starts on today.
+class TfrmDataWzorca : public TfrmRODefault
+{
+    Q_OBJECT
+
+public:
+    explicit TfrmDataWzorca(QWidget *owner = nullptr);
+
+    QDate date() const;
+
+    QLabel *lblData;
+    QDateEdit *deData;
+
+protected:
+    void FormCreate() override;
+};

@@ -1,0 +1,33 @@
+#include "ClockTime.h"
+
+#include <gtest/gtest.h>
+
+TEST(ClockTime, ReadsHoursWithOrWithoutALeadingZero)
+{
+    EXPECT_EQ(ClockTime::parse(QStringLiteral("07:05")), QTime(7, 5));
+    EXPECT_EQ(ClockTime::parse(QStringLiteral(" 7:05")), QTime(7, 5));
+    EXPECT_EQ(ClockTime::parse(QStringLiteral("7:05")), QTime(7, 5));
+    EXPECT_EQ(ClockTime::parse(QStringLiteral("23:59")), QTime(23, 59));
+    EXPECT_EQ(ClockTime::parse(QStringLiteral("00:00")), QTime(0, 0));
+}
+
+TEST(ClockTime, RefusesWhatIsNoTimeOfDay)
+{
+    for (const char *text : {"24:00", "12:60", ":", "  :  ", "", "1230", "ab:cd", "12:5x"})
+        EXPECT_FALSE(ClockTime::parse(QString::fromLatin1(text))) << text;
+}
+
+TEST(ClockTime, SplitsAndJoinsDayAndHour)
+{
+    const DateTime day = DateTime::fromDate(QDate(2024, 3, 31));
+    const DateTime joined = ClockTime::combine(day, QTime(2, 30));
+    EXPECT_EQ(joined.date(), QDate(2024, 3, 31));
+    EXPECT_EQ(ClockTime::text(joined), QStringLiteral("02:30"));
+    EXPECT_EQ(ClockTime::text(DateTime()), QStringLiteral("00:00"));
+    EXPECT_TRUE(ClockTime::combine(DateTime(), QTime(8, 0)).isNull());
+}
+
+TEST(ClockTime, TheMessageQuotesTheText)
+{
+    EXPECT_TRUE(ClockTime::invalidTimeMessage(QStringLiteral("25:61")).startsWith(u"'25:61'"));
+}

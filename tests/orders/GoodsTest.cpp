@@ -1,0 +1,191 @@
+#include "OrdersFixture.h"
+
+#include "LVFrame.h"
+#include "ScriptedMessages.h"
+#include "ScriptedModalRunner.h"
+#include "TBitBtn.h"
+#include "TNumberEdit.h"
+#include "TfrmAddEditTowaryNaZleceniu.h"
+#include "TfrmTowaryNaZleceniu.h"
+
+#include <QAction>
+#include <QLabel>
+#include <QLineEdit>
+
+namespace {
+
+using GoodsEditor = TfrmAddEditTowaryNaZleceniu;
+
+class Goods : public OrdersFixture
+{
+protected:
+    void SetUp() override
+    {
+        OrdersFixture::SetUp();
+        tonne = addUnit(QStringLiteral("tona"));
+        pallet = addUnit(QStringLiteral("paleta"));
+        addGoods(OrderKey, QStringLiteral("Jabłka"), 2.5, pallet);
+        addGoods(OrderKey, QStringLiteral("Cement"), 24.0, tonne);
+        addGoods(OtherOrder, QStringLiteral("Węgiel"), 20.0, tonne);
+    }
+
+    void addGoods(int order, const QString &name, double quantity, int unit)
+    {
+        TTowaryObj goods(db.connection());
+        goods.ID_ZLECENIA = order;
+        goods.NAZWA = name;
+        goods.NUMER1 = QStringLiteral("UN 1202");
+        goods.NUMER2 = QStringLiteral("opis ") + name;
+        goods.ILOSC = quantity;
+        goods.ILOSC_DEKLAROWANA = quantity + 1000.0;
+        goods.ID_JEDNOSTKI_MIARY = unit;
+        goods.LP = 4;
+        goods.Insert();
+    }
+
+    TTowaryObj goodsNamed(const QString &name)
+    {
+        const auto found
+            = TTowaryObj(db.connection()).SelectWhere(QStringLiteral("NAZWA"), opEqual, name);
+        return found.empty() ? TTowaryObj(db.connection()) : found.front();
+    }
+
+    int rowOf(const TfrmTowaryNaZleceniu &form, const QString &name)
+    {
+        const TListView *list = form.frameListView1->lvMain;
+        for (int row = 0; row < list->itemCount(); ++row) {
+            if (list->caption(row) == name)
+                return row;
+        }
+        return -1;
+    }
+
+    static constexpr int OrderKey = 31;
+    static constexpr int OtherOrder = 32;
+    int tonne = 0;
+    int pallet = 0;
+};
+
+} // namespace
+
+TEST_F(Goods, TheListShowsTheOrdersGoodsInItsColumns)
+{
+    auto form = TfrmRODefault::create<TfrmTowaryNaZleceniu>(nullptr, OrderKey);
+    EXPECT_EQ(form->windowTitle(), "Towary dotyczące zlecenia");
+    EXPECT_EQ(form->btnOk->text(), "&Zamknij");
+    const TListView *list = form->frameListView1->lvMain;
+    ASSERT_EQ(list->columnCount(), 5);
+    EXPECT_EQ(list->columnCaption(2), "Ilość deklarowana");
+    EXPECT_EQ(list->columnWidth(0), 200);
+    EXPECT_EQ(list->items().columnAlignment(3), Qt::AlignRight | Qt::AlignVCenter);
+    EXPECT_EQ(list->items().columnAlignment(4) & Qt::AlignHorizontal_Mask, Qt::AlignLeft);
+    ASSERT_EQ(list->itemCount(), 2);
+    const int row = rowOf(*form, QStringLiteral("Cement"));
+    ASSERT_GE(row, 0);
+    EXPECT_EQ(list->text(row, 1), "UN 1202");
+    EXPECT_EQ(list->text(row, 2), QStringLiteral("1\u00A0024,00"));
+    EXPECT_EQ(list->text(row, 3), "24,00");
+    EXPECT_EQ(list->text(row, 4), "opis Cement");
+    EXPECT_EQ(list->key(row), goodsNamed(QStringLiteral("Cement")).ID_TOWARU);
+    EXPECT_EQ(form->acAdd->property("category").toString(), "Towary");
+}
+
+TEST_F(Goods, CorrectingAndDeletingNeedASelectedRow)
+{
+    auto empty = TfrmRODefault::create<TfrmTowaryNaZleceniu>(nullptr, 4711);
+    EXPECT_EQ(empty->frameListView1->lvMain->itemCount(), 0);
+    EXPECT_TRUE(empty->acAdd->isEnabled());
+    EXPECT_FALSE(empty->acPopraw->isEnabled());
+    EXPECT_FALSE(empty->acDelete->isEnabled());
+    empty->acDelete->trigger();
+    empty->acPopraw->trigger();
+    EXPECT_EQ(db.count(QStringLiteral("TOWARY")), 3);
+
+    auto form = TfrmRODefault::create<TfrmTowaryNaZleceniu>(nullptr, OrderKey);
+    form->frameListView1->lvMain->setSelectedIndex(0);
+    form->frameListView1->Refresh();
+    EXPECT_TRUE(form->acPopraw->isEnabled());
+    EXPECT_TRUE(form->acDelete->isEnabled());
+}
+
+TEST_F(Goods, DeletingAsksNothing)
+{
+    auto form = TfrmRODefault::create<TfrmTowaryNaZleceniu>(nullptr, OrderKey);
+    form->frameListView1->lvMain->setSelectedIndex(rowOf(*form, QStringLiteral("Jabłka")));
+    form->acDelete->trigger();
+    EXPECT_TRUE(scriptedMessages().shown().empty());
+    EXPECT_EQ(db.count(QStringLiteral("TOWARY"), QStringLiteral("NAZWA = 'Jabłka'")), 0);
+    EXPECT_EQ(db.count(QStringLiteral("TOWARY")), 2);
+    EXPECT_EQ(form->frameListView1->lvMain->itemCount(), 1);
+}
+
+TEST_F(Goods, AddingOpensAnEmptyEditorForTheOrderAndCutsTheNameTo35)
+{
+    auto form = TfrmRODefault::create<TfrmTowaryNaZleceniu>(nullptr, OrderKey);
+    const QString longName = QStringLiteral("Konstrukcje stalowe ocynkowane ogniowo 1");
+    ASSERT_EQ(longName.size(), 40);
+    scriptedModalRunner().expect<GoodsEditor>([&](GoodsEditor &e) {
+        EXPECT_EQ(e.windowTitle(), "Wprowadzanie danych");
+        EXPECT_EQ(e.lblHeader->text(), "Wprowadzanie danych");
+        EXPECT_TRUE(e.cbNazwa->currentText().isEmpty());
+        EXPECT_EQ(e.cbJM->currentIndex(), 0);
+        // Names of earlier goods are offered, in Polish order.
+        EXPECT_EQ(e.cbNazwa->itemText(0), "Cement");
+        EXPECT_EQ(e.cbNazwa->itemText(1), "Jabłka");
+        EXPECT_EQ(e.cbNazwa->itemText(2), "Węgiel");
+        e.cbNazwa->setEditText(longName);
+        e.edADR->setText(QStringLiteral("UN 3077"));
+        e.edIloscDekl->setValue(12.3456);
+        e.edIloscRzecz->setValue(12.0);
+        e.cbJM->setCurrentIndex(e.cbJM->findData(tonne));
+        e.btnOk->click();
+        return e.result();
+    });
+    form->acAdd->trigger();
+    EXPECT_TRUE(scriptedModalRunner().allRun());
+    const TTowaryObj added = goodsNamed(longName.left(35));
+    EXPECT_EQ(added.NAZWA.size(), 35);
+    EXPECT_EQ(added.ID_ZLECENIA, OrderKey);
+    EXPECT_EQ(added.NUMER1, "UN 3077");
+    EXPECT_DOUBLE_EQ(added.ILOSC_DEKLAROWANA, 12.3456);
+    EXPECT_DOUBLE_EQ(added.ILOSC, 12.0);
+    EXPECT_EQ(added.ID_JEDNOSTKI_MIARY, tonne);
+    EXPECT_EQ(form->frameListView1->lvMain->itemCount(), 3);
+}
+
+TEST_F(Goods, CorrectingLoadsTheRowAndUpdatesOnlyTheEditedColumns)
+{
+    auto form = TfrmRODefault::create<TfrmTowaryNaZleceniu>(nullptr, OrderKey);
+    form->frameListView1->lvMain->setSelectedIndex(rowOf(*form, QStringLiteral("Jabłka")));
+    scriptedModalRunner().expect<GoodsEditor>([&](GoodsEditor &e) {
+        EXPECT_EQ(e.windowTitle(), "Edycja danych");
+        EXPECT_EQ(e.cbNazwa->currentText(), "Jabłka");
+        EXPECT_EQ(e.edDodatkowyOpis->text(), "opis Jabłka");
+        EXPECT_EQ(e.cbJM->currentData().toInt(), pallet);
+        EXPECT_DOUBLE_EQ(e.edIloscRzecz->value(), 2.5);
+        e.edIloscRzecz->setValue(3.0);
+        e.btnOk->click();
+        return e.result();
+    });
+    form->acPopraw->trigger();
+    const TTowaryObj changed = goodsNamed(QStringLiteral("Jabłka"));
+    EXPECT_DOUBLE_EQ(changed.ILOSC, 3.0);
+    EXPECT_EQ(changed.LP, 4);
+    EXPECT_EQ(db.count(QStringLiteral("TOWARY")), 3);
+}
+
+TEST_F(Goods, AUnitThatIsGoneShowsTheFirstUnitAndCancelWritesNothing)
+{
+    TTowaryObj goods = goodsNamed(QStringLiteral("Cement"));
+    goods.ID_JEDNOSTKI_MIARY = 999;
+    goods.Update();
+    auto editor = TfrmRODefault::create<GoodsEditor>(nullptr, goods, GoodsEditor::Edit);
+    scriptedModalRunner().expect<GoodsEditor>([&](GoodsEditor &e) {
+        EXPECT_EQ(e.cbJM->currentIndex(), 0);
+        e.edADR->setText(QStringLiteral("zmiana"));
+        e.btnCancel->click();
+        return e.result();
+    });
+    EXPECT_EQ(editor->showModal(), TfrmRODefault::mrCancel);
+    EXPECT_EQ(goodsNamed(QStringLiteral("Cement")).NUMER1, "UN 1202");
+}

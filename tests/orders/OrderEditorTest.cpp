@@ -1,0 +1,368 @@
+#include "OrdersFixture.h"
+
+#include "IncomingOrderStatements.h"
+#include "ScriptedMessages.h"
+#include "ScriptedModalRunner.h"
+#include "TBitBtn.h"
+#include "TDateEdit.h"
+#include "TNumberEdit.h"
+#include "TZlecenia_przychObj.h"
+#include "TfrmAddEditZlecenia_Przych.h"
+
+#include <QCheckBox>
+#include <QLabel>
+#include <QLineEdit>
+#include <QPlainTextEdit>
+#include <QRadioButton>
+#include <QSpinBox>
+
+namespace {
+
+using Editor = TfrmAddEditZlecenia_Przych;
+
+class OrderEditor : public OrdersFixture
+{
+protected:
+    void SetUp() override
+    {
+        OrdersFixture::SetUp();
+        client = addContractor(QStringLiteral("Agromax"));
+        carrier = addContractor(QStringLiteral("Spedpol"));
+        own = addContractor(QStringLiteral("Trans-Wisła"));
+        setOwner(own);
+        lodz = addCity(QStringLiteral("Łódź"));
+        lublin = addCity(QStringLiteral("Lublin"));
+        zakopane = addCity(QStringLiteral("Zakopane"));
+        addFilter(QStringLiteral("Jan Wiśniewski"));
+    }
+
+    // Opens the editor modally; the handler plays the user.
+    int run(int key, int mode, std::function<void(Editor &)> user)
+    {
+        auto form = TfrmRODefault::create<Editor>(nullptr, key, mode);
+        scriptedModalRunner().expect<Editor>([&](Editor &editor) {
+            user(editor);
+            return editor.result();
+        });
+        return form->showModal();
+    }
+
+    TZlecenia_przychObj stored(int key)
+    {
+        return IncomingOrderStatements::load(db.connection(), key);
+    }
+
+    int insertOrder(TZlecenia_przychObj order)
+    {
+        order.Insert();
+        return order.GetMaxId();
+    }
+
+    int client = 0;
+    int carrier = 0;
+    int own = 0;
+    int lodz = 0;
+    int lublin = 0;
+    int zakopane = 0;
+};
+
+QStringList itemTexts(const QComboBox *combo)
+{
+    QStringList texts;
+    for (int i = 0; i < combo->count(); ++i)
+        texts << combo->itemText(i);
+    return texts;
+}
+
+} // namespace
+
+TEST_F(OrderEditor, AddModeStartsEmptyWithAgreedRatesAndMidnight)
+{
+    auto form = TfrmRODefault::create<Editor>(nullptr, 0, Editor::Add);
+    EXPECT_TRUE(scriptedMessages().shown().empty());
+    EXPECT_EQ(form->windowTitle(), "Dodaj/Popraw wysyłkę");
+    EXPECT_EQ(form->lblHeader->text(), "Dodawanie/Poprawianie wysyłek");
+    EXPECT_TRUE(form->rbStawkaUmowna->isChecked());
+    EXPECT_TRUE(form->rbKosztUmowna->isChecked());
+    EXPECT_TRUE(form->seKwota->isEnabled());
+    EXPECT_FALSE(form->ceTaryfa->isEnabled());
+    EXPECT_EQ(form->meAwizo->text(), "00:00");
+    EXPECT_EQ(form->meRozladunek->text(), "00:00");
+    EXPECT_TRUE(form->deAwizo->isEmpty());
+    EXPECT_EQ(form->cbKlient->currentIndex(), -1);
+    EXPECT_EQ(form->seNumerKolejny->value(), 0);
+    EXPECT_EQ(form->lblStawkaRazem->text(), "0,00");
+    EXPECT_EQ(form->cbWspolnik->currentText(), "---");
+    EXPECT_EQ(itemTexts(form->cbWspolnik), QStringList({"---", "Jan Wiśniewski"}));
+    // Polish order, an empty entry first for a route without the city.
+    EXPECT_EQ(itemTexts(form->cbMiastoPrzez), QStringList({"", "Lublin", "Łódź", "Zakopane"}));
+    EXPECT_EQ(itemTexts(form->cbKlient), QStringList({"Agromax", "Spedpol", "Trans-Wisła"}));
+    EXPECT_EQ(form->cbKlient->itemData(0).toInt(), client);
+    EXPECT_EQ(form->cbPrzewoznikObcy->text(), "Perzewoźnik własny:");
+}
+
+TEST_F(OrderEditor, SavingANewOrderWritesTheFieldsTheSessionUserAndTheFirstNumberOfTheYear)
+{
+    const int result = run(0, Editor::Add, [&](Editor &e) {
+        choose(e.cbKlient, client);
+        choose(e.cbPrzewoznik, carrier);
+        choose(e.cbMiastoOd, lodz);
+        choose(e.cbMiastoDo, zakopane);
+        e.deAwizo->setValue(DateTime::fromDate(QDate(2024, 5, 6)));
+        e.meAwizo->setText(QStringLiteral("8:30"));
+        e.deRozladunek->setValue(DateTime::fromDate(QDate(2024, 5, 7)));
+        e.meRozladunek->setText(QStringLiteral("14:05"));
+        e.seOdleglosc->setValue(420);
+        e.seKMLadownych->setValue(420);
+        e.seKMPustych->setValue(12.5);
+        e.seKwota->setValue(1850.0);
+        e.seKosztKwota->setValue(1400.0);
+        e.edPojazd->setText(QStringLiteral("EL 12345"));
+        e.memOpisDod->setPlainText(QStringLiteral("Towar na paletach"));
+        e.btnOk->click();
+    });
+    EXPECT_EQ(result, TfrmRODefault::mrOk);
+    ASSERT_EQ(db.count(QStringLiteral("ZLECENIA_PRZYCH")), 1);
+    const TZlecenia_przychObj o = lastOrder();
+    EXPECT_EQ(o.IDUSER, SessionUser);
+    EXPECT_EQ(o.NUMER, 1);
+    EXPECT_EQ(o.IDKONTRAHENTA, client);
+    EXPECT_EQ(o.IDPRZEWOZNIK, carrier);
+    EXPECT_EQ(o.IDMIASTO_OD, lodz);
+    EXPECT_EQ(o.IDMIASTO_VIA, 0);
+    EXPECT_EQ(o.IDMIASTO_DO, zakopane);
+    EXPECT_EQ(o.DATA.toDateTime(), QDateTime(QDate(2024, 5, 6), QTime(0, 0), Qt::UTC));
+    EXPECT_EQ(o.AWIZO.toDateTime(), QDateTime(QDate(2024, 5, 6), QTime(8, 30), Qt::UTC));
+    EXPECT_EQ(o.DOSTARCZENIE.toDateTime(), QDateTime(QDate(2024, 5, 7), QTime(14, 5), Qt::UTC));
+    EXPECT_EQ(o.ODLEGLOSC, 420);
+    EXPECT_DOUBLE_EQ(o.KM_PUSTE, 12.5);
+    EXPECT_DOUBLE_EQ(o.KWOTA, 1850.0);
+    EXPECT_DOUBLE_EQ(o.STAWKA_RAZEM, 1850.0);
+    EXPECT_DOUBLE_EQ(o.KOSZTKWOTA, 1400.0);
+    EXPECT_DOUBLE_EQ(o.KOSZTRAZEM, 1400.0);
+    EXPECT_EQ(o.POJAZD, "EL 12345");
+    EXPECT_EQ(o.DODATKOWY_OPIS, "Towar na paletach");
+    EXPECT_EQ(o.TYP, "");
+}
+
+TEST_F(OrderEditor, ANewOrderFollowsTheMostRecentlyInsertedNumberOfItsLoadingYear)
+{
+    TZlecenia_przychObj earlier(db.connection());
+    earlier.DATA = DateTime::fromDate(QDate(2024, 1, 2));
+    earlier.NUMER = 300;
+    insertOrder(earlier);
+    earlier.NUMER = 41;
+    insertOrder(earlier);
+    run(0, Editor::Add, [&](Editor &e) {
+        e.deAwizo->setValue(DateTime::fromDate(QDate(2024, 8, 1)));
+        e.btnOk->click();
+        EXPECT_EQ(e.seNumerKolejny->value(), 42);
+    });
+    EXPECT_EQ(db.scalar(QStringLiteral("SELECT MAX(NUMER) FROM ZLECENIA_PRZYCH WHERE "
+                                       "ID_ZLECENIA_PRZYCH = (SELECT MAX(ID_ZLECENIA_PRZYCH) "
+                                       "FROM ZLECENIA_PRZYCH)")),
+              "42");
+}
+
+TEST_F(OrderEditor, ByTariffEachRateProductIsRoundedAndTheAmountGoesToZero)
+{
+    run(0, Editor::Add, [&](Editor &e) {
+        e.seKwota->setValue(999.0);
+        e.rbStawkaTaryfowa->click();
+        EXPECT_DOUBLE_EQ(e.seKwota->value(), 0.0);
+        EXPECT_FALSE(e.seKwota->isEnabled());
+        EXPECT_TRUE(e.ceTaryfa->isEnabled());
+        e.seKMLadownych->setValue(100);
+        e.edStawkaKMLadowny->setValue(1.235);
+        EXPECT_EQ(e.lblStawkaRazem->text(), "123,50");
+        e.seIloscPalet->setValue(3);
+        e.edStawkaIloscPalet->setValue(10.005);
+        EXPECT_EQ(e.lblStawkaRazem->text(), "153,52");
+        // 0.005 alone rounds up to a grosz, the plain sum would not.
+        e.seIloscGodzin->setValue(1.0);
+        e.edStawkaIloscGodzin->setValue(0.005);
+        EXPECT_EQ(e.lblStawkaRazem->text(), "153,53");
+        e.btnOk->click();
+    });
+    const TZlecenia_przychObj o = lastOrder();
+    EXPECT_DOUBLE_EQ(o.STAWKA_RAZEM, 153.53);
+    EXPECT_DOUBLE_EQ(o.KWOTA, 0.0);
+    EXPECT_DOUBLE_EQ(o.STAWKA_KMLAD, 1.235);
+}
+
+TEST_F(OrderEditor, TheOwnCarrierBoxTicksExactlyForTheCompanysOwnContractor)
+{
+    run(0, Editor::Add, [&](Editor &e) {
+        choose(e.cbPrzewoznik, own);
+        EXPECT_TRUE(e.cbPrzewoznikObcy->isChecked());
+        choose(e.cbPrzewoznik, carrier);
+        EXPECT_FALSE(e.cbPrzewoznikObcy->isChecked());
+        e.cbPrzewoznikObcy->click();
+        EXPECT_EQ(e.cbPrzewoznik->currentData().toInt(), own);
+        e.cbPrzewoznikObcy->click();   // unticking leaves the carrier
+        EXPECT_EQ(e.cbPrzewoznik->currentData().toInt(), own);
+    });
+}
+
+TEST_F(OrderEditor, AnEditRoundTripKeepsWhatTheEditorDoesNotShow)
+{
+    const int tariff = addTariff(QStringLiteral("Chłodnia 24t"), 0, 2.0, 0.0, 0.0, 0.0);
+    TZlecenia_przychObj order(db.connection());
+    order.NUMER = 77;
+    order.DATA = DateTime::fromDate(QDate(2024, 5, 6));
+    order.AWIZO = DateTime::fromDateTime(QDateTime(QDate(2024, 5, 6), QTime(14, 45), Qt::UTC));
+    order.IDKONTRAHENTA = client;
+    order.IDPRZEWOZNIK = own;
+    order.IDMIASTO_OD = lublin;
+    order.KM_LADOWNE = 100;
+    order.IDTARYFYKOSZT = tariff;
+    order.KWOTA = 900.0;
+    order.TYP = QStringLiteral("K");
+    order.IDMIASTO = lodz;
+    order.PALETYPLAN = 3;
+    order.NRRAMPY = 1;
+    order.ZWROTY = 2;
+    order.TELEFON = QStringLiteral("601 200 300");
+    order.IDFAKTURY = 9;
+    order.ZAMKNIETE = 1;
+    order.IDUSER = 3;
+    const int key = insertOrder(order);
+
+    const int result = run(key, Editor::Edit, [&](Editor &e) {
+        EXPECT_EQ(e.seNumerKolejny->value(), 77);
+        EXPECT_EQ(e.deAwizo->value().date(), QDate(2024, 5, 6));
+        EXPECT_EQ(e.meAwizo->text(), "14:45");
+        EXPECT_EQ(e.cbKlient->currentText(), "Agromax");
+        EXPECT_TRUE(e.cbPrzewoznikObcy->isChecked());
+        EXPECT_EQ(e.cbMiastoOd->currentText(), "Lublin");
+        EXPECT_TRUE(e.rbStawkaUmowna->isChecked());
+        EXPECT_EQ(e.lblStawkaRazem->text(), "900,00");
+        EXPECT_TRUE(e.rgKosztTaryfa->isChecked());
+        EXPECT_EQ(e.ceKosztTaryfa->text(), "Chłodnia 24t");
+        EXPECT_EQ(e.costTariffKey(), tariff);
+        e.edPojazd->setText(QStringLiteral("WZ 9876A"));
+        e.btnOk->click();
+    });
+    EXPECT_EQ(result, TfrmRODefault::mrOk);
+    EXPECT_EQ(db.count(QStringLiteral("ZLECENIA_PRZYCH")), 1);
+    const TZlecenia_przychObj o = stored(key);
+    EXPECT_EQ(o.POJAZD, "WZ 9876A");
+    EXPECT_EQ(o.NUMER, 77);
+    EXPECT_EQ(o.TYP, "K");
+    EXPECT_EQ(o.IDMIASTO, lodz);
+    EXPECT_EQ(o.PALETYPLAN, 3);
+    EXPECT_EQ(o.NRRAMPY, 1);
+    EXPECT_EQ(o.ZWROTY, 2);
+    EXPECT_EQ(o.TELEFON, "601 200 300");
+    EXPECT_EQ(o.IDFAKTURY, 9);
+    EXPECT_EQ(o.ZAMKNIETE, 1);
+    EXPECT_EQ(o.IDUSER, 3);
+    EXPECT_EQ(o.AWIZO.toDateTime(), QDateTime(QDate(2024, 5, 6), QTime(14, 45), Qt::UTC));
+    // The carrier's tariff prices the cost: 100 km at 2.00.
+    EXPECT_DOUBLE_EQ(o.KOSZTRAZEM, 200.0);
+    EXPECT_EQ(o.IDTARYFYKOSZT, tariff);
+}
+
+TEST_F(OrderEditor, ATimeThatDoesNotConvertStopsTheSaveBeforeAnythingIsWritten)
+{
+    TZlecenia_przychObj order(db.connection());
+    order.NUMER = 5;
+    order.POJAZD = QStringLiteral("EL 1");
+    const int key = insertOrder(order);
+    const int result = run(key, Editor::Edit, [&](Editor &e) {
+        e.edPojazd->setText(QStringLiteral("EL 2"));
+        e.meRozladunek->setText(QStringLiteral("25:70"));
+        scriptedMessages().expect(MessageService::Ok);
+        e.btnOk->click();
+        EXPECT_TRUE(e.isVisible());
+        return;
+    });
+    EXPECT_NE(result, TfrmRODefault::mrOk);
+    ASSERT_EQ(scriptedMessages().shown().size(), 1u);
+    EXPECT_EQ(scriptedMessages().shown()[0].caption, "Błąd");
+    EXPECT_TRUE(scriptedMessages().shown()[0].text.contains(u"25:70"));
+    EXPECT_EQ(stored(key).POJAZD, "EL 1");
+
+    run(0, Editor::Add, [&](Editor &e) {
+        e.meAwizo->setText(QStringLiteral("9:99"));
+        scriptedMessages().expect(MessageService::Ok);
+        e.btnOk->click();
+    });
+    EXPECT_EQ(db.count(QStringLiteral("ZLECENIA_PRZYCH")), 1);
+}
+
+TEST_F(OrderEditor, AContractorOrCityGoneFromItsListStaysWithTheOrder)
+{
+    TZlecenia_przychObj order(db.connection());
+    order.IDKONTRAHENTA = 999;
+    order.IDPRZEWOZNIK = carrier;
+    order.IDMIASTO_DO = 888;
+    order.FILTR1 = 77;
+    order.NR_LISTU = 654321;   // beyond what the field lets a user type
+    const int key = insertOrder(order);
+    run(key, Editor::Edit, [&](Editor &e) {
+        EXPECT_EQ(e.cbKlient->currentIndex(), -1);
+        EXPECT_EQ(e.edNrListu->value(), 654321);
+        e.btnOk->click();
+    });
+    const TZlecenia_przychObj o = stored(key);
+    EXPECT_EQ(o.IDKONTRAHENTA, 999);
+    EXPECT_EQ(o.IDPRZEWOZNIK, carrier);
+    EXPECT_EQ(o.IDMIASTO_DO, 888);
+    EXPECT_EQ(o.FILTR1, 77);
+    EXPECT_EQ(o.NR_LISTU, 654321);
+}
+
+TEST_F(OrderEditor, CancelWritesNothing)
+{
+    TZlecenia_przychObj order(db.connection());
+    order.NUMER = 5;
+    order.KWOTA = 100.0;
+    const int key = insertOrder(order);
+    const int result = run(key, Editor::Edit, [&](Editor &e) {
+        e.seKwota->setValue(250.0);
+        e.seNumerKolejny->setValue(0);
+        e.btnCancel->click();
+    });
+    EXPECT_EQ(result, TfrmRODefault::mrCancel);
+    EXPECT_DOUBLE_EQ(stored(key).KWOTA, 100.0);
+    EXPECT_EQ(stored(key).NUMER, 5);
+}
+
+TEST_F(OrderEditor, AgreedAfterTariffClearsTheTariffAndKeepsTheRates)
+{
+    const int tariff = addTariff(QStringLiteral("Własna krajowa"), 1, 3.0, 0.0, 0.0, 0.0);
+    TZlecenia_przychObj order(db.connection());
+    order.IDTARYFY = tariff;
+    order.KM_LADOWNE = 10;
+    order.STAWKA_KMLAD = 3.0;
+    const int key = insertOrder(order);
+    run(key, Editor::Edit, [&](Editor &e) {
+        EXPECT_TRUE(e.rbStawkaTaryfowa->isChecked());
+        EXPECT_EQ(e.ceTaryfa->text(), "Własna krajowa");
+        EXPECT_EQ(e.lblStawkaRazem->text(), "30,00");
+        e.rbStawkaUmowna->click();
+        EXPECT_EQ(e.tariffKey(), 0);
+        EXPECT_TRUE(e.ceTaryfa->text().isEmpty());
+        EXPECT_TRUE(e.seKwota->isEnabled());
+        EXPECT_EQ(e.lblStawkaRazem->text(), "0,00");
+        e.seKwota->setValue(75.0);
+        e.btnOk->click();
+    });
+    const TZlecenia_przychObj o = stored(key);
+    EXPECT_EQ(o.IDTARYFY, 0);
+    EXPECT_DOUBLE_EQ(o.KWOTA, 75.0);
+    EXPECT_DOUBLE_EQ(o.STAWKA_RAZEM, 75.0);
+    EXPECT_DOUBLE_EQ(o.STAWKA_KMLAD, 3.0);
+}
+
+TEST_F(OrderEditor, TheDescriptionKeepsAtMost255Characters)
+{
+    run(0, Editor::Add, [&](Editor &e) {
+        e.memOpisDod->setPlainText(QString(300, u'ż'));
+        EXPECT_EQ(e.memOpisDod->toPlainText().size(), 255);
+        e.btnOk->click();
+    });
+    EXPECT_EQ(lastOrder().DODATKOWY_OPIS,
+              QString(255, u'ż'));
+}

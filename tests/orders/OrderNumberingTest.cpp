@@ -1,0 +1,34 @@
+#include "OrderNumbering.h"
+#include "TZlecenia_przychObj.h"
+#include "TestDatabase.h"
+
+#include <gtest/gtest.h>
+
+namespace {
+
+void addOrder(TestDatabase &db, QDate day, int number)
+{
+    TZlecenia_przychObj order(db.connection());
+    order.DATA = DateTime::fromDate(day);
+    order.NUMER = number;
+    order.Insert();
+}
+
+} // namespace
+
+TEST(OrderNumbering, TheFirstOrderOfAYearIsNumberOne)
+{
+    TestDatabase db;
+    addOrder(db, QDate(2023, 12, 30), 412);
+    EXPECT_EQ(OrderNumbering::propose(db.connection(), 2024), 1);
+}
+
+TEST(OrderNumbering, FollowsTheMostRecentlyInsertedOrderOfTheYearNotTheHighestNumber)
+{
+    TestDatabase db;
+    addOrder(db, QDate(2024, 2, 1), 90);
+    addOrder(db, QDate(2024, 1, 5), 14);
+    addOrder(db, QDate(2023, 6, 1), 500);
+    EXPECT_EQ(OrderNumbering::propose(db.connection(), 2024), 15);
+    EXPECT_EQ(OrderNumbering::propose(db.connection(), 2023), 501);
+}

@@ -1,0 +1,219 @@
+#include "OrdersFixture.h"
+
+#include "IncomingOrderStatements.h"
+#include "LVFrame.h"
+#include "Miasta.h"
+#include "ScriptedMessages.h"
+#include "ScriptedModalRunner.h"
+#include "StawkiTaryfowe.h"
+#include "TBitBtn.h"
+#include "TNumberEdit.h"
+#include "TfrmAddEditZlecenia_Przych.h"
+
+#include <QAction>
+#include <QLabel>
+#include <QLineEdit>
+#include <QMenu>
+#include <QPushButton>
+#include <QRadioButton>
+#include <QSpinBox>
+#include <QTest>
+
+namespace {
+
+using Editor = TfrmAddEditZlecenia_Przych;
+
+class OrderPricing : public OrdersFixture
+{
+protected:
+    void SetUp() override
+    {
+        OrdersFixture::SetUp();
+        a = addCity(QStringLiteral("Białystok"));
+        b = addCity(QStringLiteral("Warszawa"));
+        c = addCity(QStringLiteral("Kraków"));
+        d = addCity(QStringLiteral("Łódź"));
+    }
+
+    std::unique_ptr<Editor> newOrder()
+    {
+        return TfrmRODefault::create<Editor>(nullptr, 0, Editor::Add);
+    }
+
+    void route(Editor &e, int from, int via, int to)
+    {
+        choose(e.cbMiastoOd, from);
+        choose(e.cbMiastoPrzez, via);
+        choose(e.cbMiastoDo, to);
+    }
+
+    // Plays the tariff register: picks the tariff and presses "&Wybierz".
+    void pickInRegister(int tariff, int expectedKind)
+    {
+        scriptedModalRunner().expect<TfrmStawkiTaryfowe>([=](TfrmStawkiTaryfowe &f) {
+            EXPECT_EQ(f.cbFilter->currentIndex(), expectedKind);
+            f.frameListView1->lvMain->selectByKey(tariff);
+            f.btnOk->click();
+            return f.result();
+        });
+    }
+
+    int a = 0;
+    int b = 0;
+    int c = 0;
+    int d = 0;
+};
+
+} // namespace
+
+TEST_F(OrderPricing, ARouteSavedWithItsDistanceIsFoundBackwardsButNotThroughAnotherCity)
+{
+    auto first = newOrder();
+    first->seOdleglosc->setValue(55);
+    first->seKMLadownych->setValue(55);
+    route(*first, a, b, c);
+    // An unknown route: both distance fields go to 0.
+    EXPECT_EQ(first->seOdleglosc->value(), 0);
+    EXPECT_EQ(first->seKMLadownych->value(), 0);
+    first->seOdleglosc->setValue(310);
+    first->btnOk->click();
+    EXPECT_EQ(first->result(), TfrmRODefault::mrOk);
+    EXPECT_EQ(db.count(QStringLiteral("ODLEGLOSCI")), 1);
+
+    auto back = newOrder();
+    route(*back, c, b, a);
+    EXPECT_EQ(back->seOdleglosc->value(), 310);
+    EXPECT_EQ(back->seKMLadownych->value(), 310);
+    choose(back->cbMiastoPrzez, d);
+    EXPECT_EQ(back->seOdleglosc->value(), 0);
+    EXPECT_EQ(back->seKMLadownych->value(), 0);
+
+    // A known route is not stored twice; a distance of 0 is never stored.
+    route(*back, c, b, a);
+    back->btnOk->click();
+    auto unknown = newOrder();
+    route(*unknown, a, d, c);
+    unknown->btnOk->click();
+    EXPECT_EQ(db.count(QStringLiteral("ODLEGLOSCI")), 1);
+    EXPECT_EQ(db.count(QStringLiteral("ZLECENIA_PRZYCH")), 3);
+}
+
+TEST_F(OrderPricing, TheRevenueTariffComesFromOwnTariffsAndBringsItsFourRates)
+{
+    const int own = addTariff(QStringLiteral("Krajowa 2024"), 1, 1.235, 40.0, 0.0, 0.0);
+    auto e = newOrder();
+    e->rbStawkaTaryfowa->click();
+    e->edStawkaIloscGodzin->setValue(99.0);
+    e->seKMLadownych->setValue(100);
+    e->seKMPustych->setValue(2.0);
+    pickInRegister(own, 1);
+    e->acTaryfa->trigger();
+    EXPECT_TRUE(scriptedModalRunner().allRun());
+    EXPECT_EQ(e->tariffKey(), own);
+    EXPECT_EQ(e->ceTaryfa->text(), "Krajowa 2024");
+    EXPECT_DOUBLE_EQ(e->edStawkaKMLadowny->value(), 1.235);
+    EXPECT_DOUBLE_EQ(e->edStawkaKMPusty->value(), 40.0);
+    // Zeros of the tariff overwrite what was typed.
+    EXPECT_DOUBLE_EQ(e->edStawkaIloscGodzin->value(), 0.0);
+    EXPECT_EQ(e->lblStawkaRazem->text(), "203,50");
+
+    // Delete in the field drops the tariff; the rates stay.
+    QTest::keyClick(e->ceTaryfa, Qt::Key_Delete);
+    EXPECT_EQ(e->tariffKey(), 0);
+    EXPECT_TRUE(e->ceTaryfa->text().isEmpty());
+    EXPECT_EQ(e->lblStawkaRazem->text(), "203,50");
+    pickInRegister(own, 1);
+    e->acTaryfa->trigger();
+    e->btnOk->click();
+    const auto saved = lastOrder();
+    EXPECT_EQ(saved.IDTARYFY, own);
+    EXPECT_DOUBLE_EQ(saved.STAWKA_RAZEM, 203.5);
+}
+
+TEST_F(OrderPricing, TheCostTariffKeepsOnlyKeyAndNameAndPricesTheCarrierCost)
+{
+    const int carriers = addTariff(QStringLiteral("Spedpol standard"), 0, 2.0, 0.0, 0.0, 10.0);
+    auto e = newOrder();
+    e->seKMLadownych->setValue(100);
+    e->seIloscPalet->setValue(3);
+    e->seKwota->setValue(500.0);
+    e->rgKosztTaryfa->click();
+    pickInRegister(carriers, 0);
+    e->acKosztTaryfa->trigger();
+    EXPECT_EQ(e->costTariffKey(), carriers);
+    EXPECT_EQ(e->ceKosztTaryfa->text(), "Spedpol standard");
+    EXPECT_DOUBLE_EQ(e->edStawkaKMLadowny->value(), 0.0);
+    EXPECT_EQ(e->lblStawkaRazem->text(), "500,00");
+    e->btnOk->click();
+    const auto saved = lastOrder();
+    EXPECT_EQ(saved.IDTARYFYKOSZT, carriers);
+    EXPECT_DOUBLE_EQ(saved.KOSZTRAZEM, 230.0);
+}
+
+TEST_F(OrderPricing, CancellingTheTariffRegisterChangesNothing)
+{
+    addTariff(QStringLiteral("Krajowa"), 1, 5.0, 5.0, 5.0, 5.0);
+    auto e = newOrder();
+    e->rbStawkaTaryfowa->click();
+    scriptedModalRunner().expect<TfrmStawkiTaryfowe>([](TfrmStawkiTaryfowe &f) {
+        f.btnCancel->click();
+        return f.result();
+    });
+    e->acTaryfa->trigger();
+    EXPECT_EQ(e->tariffKey(), 0);
+    EXPECT_DOUBLE_EQ(e->edStawkaKMLadowny->value(), 0.0);
+}
+
+TEST_F(OrderPricing, APriceListEntryFillsTheAgreedAmountFromTheLookUp)
+{
+    db.exec(QStringLiteral(
+        "INSERT INTO CENNIKI_KRAJ_WIERSZE (ZAKRES_WOD, ZAKRES_WDO) VALUES (0, 100)"));
+    db.exec(QStringLiteral(
+        "INSERT INTO CENNIKI_KRAJ_KOLUMNY (ZAKRES_KOD, ZAKRES_KDO) VALUES (0, 24000)"));
+    db.exec(QStringLiteral(
+        "INSERT INTO CENNIKI_KRAJ_GRUPY (NAZWA, BLOKADA) VALUES ('Kluczowi', 0)"));
+    db.exec(QStringLiteral("INSERT INTO CENNIKI_KRAJ_GRUPY (NAZWA, BLOKADA) VALUES ('Stary', 1)"));
+    const int key = lastKey("CENNIKI_KRAJ_GRUPY", "ID_CENNIKI_KRAJ_GRUPY") - 1;
+    const int row = lastKey("CENNIKI_KRAJ_WIERSZE", "ID_CENNIKI_KRAJ_WIERSZE");
+    const int column = lastKey("CENNIKI_KRAJ_KOLUMNY", "ID_CENNIKI_KRAJ_KOLUMNY");
+    db.exec(QStringLiteral("INSERT INTO CENNIKI_KRAJ (GRUPA, KWOTA, KILOGRAMY, KILOMETRY) "
+                           "VALUES (0, 850, %1, %2)").arg(column).arg(row));
+    db.exec(QStringLiteral("INSERT INTO CENNIKI_KRAJ (GRUPA, KWOTA, KILOGRAMY, KILOMETRY) "
+                           "VALUES (%3, 700, %1, %2)").arg(column).arg(row).arg(key));
+
+    auto e = newOrder();
+    const QList<QAction *> entries = e->pmCennik->actions();
+    ASSERT_EQ(entries.size(), 2);
+    EXPECT_EQ(entries[0]->text(), " --- GŁÓWNY ---");
+    EXPECT_EQ(entries[0]->data().toInt(), 0);
+    EXPECT_EQ(entries[1]->text(), "Kluczowi");
+    EXPECT_EQ(entries[1]->data().toInt(), key);
+
+    e->rbStawkaTaryfowa->click();
+    e->seOdleglosc->setValue(100);
+    e->seKMPustych->setValue(12.345);
+    entries[1]->trigger();
+    EXPECT_TRUE(e->rbStawkaUmowna->isChecked());
+    EXPECT_DOUBLE_EQ(e->seKwota->value(), 700.0);
+    EXPECT_EQ(e->lblStawkaRazem->text(), "700,00");
+    entries[0]->trigger();
+    EXPECT_DOUBLE_EQ(e->seKwota->value(), 850.0);
+    e->seOdleglosc->setValue(101);
+    entries[0]->trigger();
+    EXPECT_DOUBLE_EQ(e->seKwota->value(), 0.0);
+    EXPECT_TRUE(scriptedMessages().shown().empty());
+}
+
+TEST_F(OrderPricing, TheCityButtonOpensTheDistanceRegisterAndKeepsTheChosenCities)
+{
+    auto e = newOrder();
+    choose(e->cbMiastoOd, d);
+    scriptedModalRunner().expect<TfrmMiasta>([&](TfrmMiasta &f) {
+        addCity(QStringLiteral("Gdańsk"));
+        return f.result() == 0 ? 2 : f.result();
+    });
+    e->btnMiastoOd->click();
+    EXPECT_TRUE(scriptedModalRunner().allRun());
+    EXPECT_EQ(e->cbMiastoOd->currentData().toInt(), d);
+    EXPECT_GE(e->cbMiastoDo->findText(QStringLiteral("Gdańsk")), 0);
+}

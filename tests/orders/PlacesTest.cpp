@@ -1,0 +1,130 @@
+#include "OrdersFixture.h"
+
+#include "ScriptedMessages.h"
+#include "ScriptedModalRunner.h"
+#include "TBitBtn.h"
+#include "TZlecenia_przychObj.h"
+#include "TfrmAdresy.h"
+
+#include <QLabel>
+#include <QLineEdit>
+
+namespace {
+
+class Places : public OrdersFixture
+{
+protected:
+    void SetUp() override
+    {
+        OrdersFixture::SetUp();
+        client = addContractor(QStringLiteral("Agromax"));
+        TZlecenia_przychObj order(db.connection());
+        order.IDKONTRAHENTA = client;
+        order.Insert();
+        orderKey = order.GetMaxId();
+    }
+
+    TMiejsca_zlecObj newPlace(int type)
+    {
+        TMiejsca_zlecObj place(db.connection());
+        place.ID_ZLECENIA = orderKey;
+        place.ID_ZRP = type;
+        place.Insert();
+        place.ID_MIEJSCA_ZLEC = place.GetMaxId();
+        return place;
+    }
+
+    TMiejsca_zlecObj storedPlace(int key)
+    {
+        const auto places = TMiejsca_zlecObj(db.connection())
+                                .SelectClause(QStringLiteral("where ID_MIEJSCA_ZLEC=%1").arg(key));
+        return places.empty() ? TMiejsca_zlecObj(db.connection()) : places.front();
+    }
+
+    int client = 0;
+    int orderKey = 0;
+};
+
+} // namespace
+
+TEST_F(Places, CaptionsFollowThePlaceType)
+{
+    auto loading = TfrmRODefault::create<TfrmAdresy>(nullptr, newPlace(1));
+    EXPECT_EQ(loading->windowTitle(), "Miejsca Załadunków ");
+    EXPECT_EQ(loading->lblHeader->text(), "Miejsca załadunków");
+    EXPECT_EQ(loading->btnCancel->text(), "&Powrót");
+    EXPECT_EQ(loading->lblNumer[0]->text(), "1)");
+    EXPECT_EQ(loading->lblNumer[17]->text(), "18)");
+    auto unloading = TfrmRODefault::create<TfrmAdresy>(nullptr, newPlace(2));
+    EXPECT_EQ(unloading->windowTitle(), "Miejsca Rozładunków");
+    EXPECT_EQ(unloading->lblHeader->text(), "Miejsca rozładunków");
+    EXPECT_TRUE(scriptedMessages().shown().empty());
+}
+
+TEST_F(Places, OkWritesTheRowsBackIntoTheirSlots)
+{
+    TMiejsca_zlecObj place = newPlace(2);
+    place.setSlot(2, {QStringLiteral("ul. Długa 5"), QStringLiteral("00-950"),
+                      QStringLiteral("Warszawa"), 1, QStringLiteral("Hurtownia Żak")});
+    place.Update();
+    auto form = TfrmRODefault::create<TfrmAdresy>(nullptr, place);
+    scriptedModalRunner().expect<TfrmAdresy>([](TfrmAdresy &f) {
+        EXPECT_EQ(f.edNazwa[1]->text(), "Hurtownia Żak");
+        EXPECT_EQ(f.edKod[1]->text(), "00-950");
+        f.edMiejscowosc[1]->setText(QStringLiteral("Warszawa-Wola"));
+        f.edNazwa[17]->setText(QStringLiteral("Odbiorca ostatni"));
+        f.edUlica[17]->setText(QStringLiteral("ul. Krańcowa 18"));
+        f.btnOk->click();
+        return f.result();
+    });
+    EXPECT_EQ(form->showModal(), TfrmRODefault::mrOk);
+    const TMiejsca_zlecObj saved = storedPlace(place.ID_MIEJSCA_ZLEC);
+    EXPECT_EQ(saved.slot(2).MIEJSCOWOSC, "Warszawa-Wola");
+    EXPECT_EQ(saved.slot(2).ID_KRAJU, 1);
+    EXPECT_EQ(saved.slot(18).NAZWA, "Odbiorca ostatni");
+    EXPECT_EQ(saved.slot(18).ADRES, "ul. Krańcowa 18");
+    EXPECT_EQ(saved.ID_ZRP, 2);
+    EXPECT_EQ(saved.ID_KONTRAHENT, client);
+}
+
+TEST_F(Places, PowrotLeavesWithoutSaving)
+{
+    const TMiejsca_zlecObj place = newPlace(1);
+    auto form = TfrmRODefault::create<TfrmAdresy>(nullptr, place);
+    scriptedModalRunner().expect<TfrmAdresy>([](TfrmAdresy &f) {
+        f.edNazwa[0]->setText(QStringLiteral("Nie zapisane"));
+        f.btnCancel->click();
+        return f.result();
+    });
+    EXPECT_EQ(form->showModal(), TfrmRODefault::mrCancel);
+    EXPECT_EQ(db.count(QStringLiteral("MIEJSCA_ZLEC")), 1);
+    EXPECT_TRUE(storedPlace(place.ID_MIEJSCA_ZLEC).slot(1).NAZWA.isEmpty());
+}
+
+TEST_F(Places, LeavingTheFirstNameFillsTheRowFromTheClientsKnownAddress)
+{
+    TMiejsca_zlecObj earlier(db.connection());
+    earlier.ID_ZLECENIA = 999;
+    earlier.ID_ZRP = 1;
+    earlier.ID_KONTRAHENT = client;
+    earlier.setSlot(1, {QStringLiteral("Magazyn \"Północ\""), QStringLiteral("91-001"),
+                        QStringLiteral("Łódź"), 1, QStringLiteral("Agromax magazyn")});
+    earlier.Insert();
+    auto form = TfrmRODefault::create<TfrmAdresy>(nullptr, newPlace(1));
+    EXPECT_EQ(form->clientKey(), client);
+    scriptedModalRunner().expect<TfrmAdresy>([](TfrmAdresy &f) {
+        f.edNazwa[0]->setText(QStringLiteral("Nieznany"));
+        Q_EMIT f.edNazwa[0]->editingFinished();
+        EXPECT_TRUE(f.edMiejscowosc[0]->text().isEmpty());
+        // Quotes typed by the user are data, never part of the statement.
+        f.edNazwa[0]->setText(QStringLiteral("Magazyn \"Północ\""));
+        Q_EMIT f.edNazwa[0]->editingFinished();
+        EXPECT_EQ(f.edNazwa[0]->text(), "Agromax magazyn");
+        EXPECT_EQ(f.edUlica[0]->text(), "Magazyn \"Północ\"");
+        EXPECT_EQ(f.edKod[0]->text(), "91-001");
+        EXPECT_EQ(f.edMiejscowosc[0]->text(), "Łódź");
+        return 2;
+    });
+    form->showModal();
+    EXPECT_TRUE(scriptedMessages().shown().empty());
+}
