@@ -127,7 +127,8 @@ std::vector<DemoSeeder::PlannedOrder> DemoSeeder::planOrders()
             if (m_random.bounded(4) == 0) {
                 o.IDTARYFYKOSZT = m_carrierTariffKeys[m_random.bounded(int(m_carrierTariffKeys.size()))];
                 const TTaryfyprzewoznikaObj &cost = tariffWithKey(o.IDTARYFYKOSZT);
-                o.KOSZTRAZEM = cents(o.KM_LADOWNE * cost.KWOTA_ZA_KM_LAD) + cents(o.KM_PUSTE * cost.KWOTA_ZA_KM);
+                o.KOSZTRAZEM = cents(o.KM_LADOWNE * cost.KWOTA_ZA_KM_LAD) + cents(o.KM_PUSTE * cost.KWOTA_ZA_KM)
+                    + cents(o.ILOSC_GODZIN * cost.KWOTA_ZA_GODZ) + cents(o.PALETYILOSC * cost.KWOTA_ZA_PALETE);
             } else {
                 o.KOSZTKWOTA = std::round(o.STAWKA_RAZEM * (0.74 + m_random.bounded(15) / 100.0));
                 o.KOSZTRAZEM = o.KOSZTKWOTA;
