@@ -22,6 +22,21 @@ Connection *database()
     return session().Database;
 }
 
+// A range or group used by a cell is refused; otherwise the user is asked.
+template <class CountUses>
+bool mayDelete(const QString &failure, CountUses &&countUses, const QString &refusal,
+               const QString &question)
+{
+    int used = 0;
+    if (!runReported(failure, [&] { used = countUses(); }))
+        return false;
+    if (used >= 1) {
+        Messages::inform(DeletionCaption, refusal);
+        return false;
+    }
+    return Messages::confirm(DeletionCaption, question);
+}
+
 } // namespace
 
 TfrmCennikWierszeKolumny::TfrmCennikWierszeKolumny(QWidget *owner) : TfrmRODefault(owner)
@@ -202,17 +217,10 @@ void TfrmCennikWierszeKolumny::deleteRange(RangeAxis axis)
     if (!db || row < 0)
         return;
     const int key = list->key(row);
-    int used = 0;
-    if (!runReported(QStringLiteral("Nie można sprawdzić użycia przedziału"),
-                     [&] { used = PriceRanges::usage(*db, axis, key); }))
-        return;
-    if (used >= 1) {
-        Messages::inform(DeletionCaption,
-                         QStringLiteral("Nie można usunąć pozycji, gdyż jest ona używana w "
-                                        "cennikach! "));
-        return;
-    }
-    if (!Messages::confirm(DeletionCaption, QStringLiteral("Czy na pewno usunąć pozycję?")))
+    if (!mayDelete(QStringLiteral("Nie można sprawdzić użycia przedziału"),
+                   [&] { return PriceRanges::usage(*db, axis, key); },
+                   QStringLiteral("Nie można usunąć pozycji, gdyż jest ona używana w cennikach! "),
+                   QStringLiteral("Czy na pewno usunąć pozycję?")))
         return;
     runReported(QStringLiteral("Nie można usunąć przedziału"),
                 [&] { PriceRanges::remove(*db, axis, key); });
@@ -254,17 +262,10 @@ void TfrmCennikWierszeKolumny::deleteGroup()
     if (!db || row < 0)
         return;
     const int key = lvGrupy->key(row);
-    int used = 0;
-    if (!runReported(QStringLiteral("Nie można sprawdzić, czy grupa jest używana w cennikach"),
-                     [&] { used = PriceGroups::usage(*db, key); }))
-        return;
-    if (used >= 1) {
-        Messages::inform(DeletionCaption,
-                         QStringLiteral("Nie można usunąć grupy, gdyż jest ona używana w "
-                                        "cennikach! "));
-        return;
-    }
-    if (!Messages::confirm(DeletionCaption, QStringLiteral("Czy na pewno usunąć grupę?")))
+    if (!mayDelete(QStringLiteral("Nie można sprawdzić, czy grupa jest używana w cennikach"),
+                   [&] { return PriceGroups::usage(*db, key); },
+                   QStringLiteral("Nie można usunąć grupy, gdyż jest ona używana w cennikach! "),
+                   QStringLiteral("Czy na pewno usunąć grupę?")))
         return;
     PriceGroups::remove(*db, key);
     fillGroups();
