@@ -22,6 +22,13 @@ Connection *database()
     return session().Database;
 }
 
+// The key of the selected item; 0 when nothing is selected.
+int selectedKey(const TListView *list)
+{
+    const int row = list->selectedIndex();
+    return row < 0 ? 0 : list->key(row);
+}
+
 // A range or group used by a cell is refused; otherwise the user is asked.
 template <class CountUses>
 bool mayDelete(const QString &failure, CountUses &&countUses, const QString &refusal,
@@ -194,11 +201,13 @@ void TfrmCennikWierszeKolumny::editRange(RangeAxis axis)
 {
     Connection *db = database();
     TListView *list = rangeList(axis);
-    const int row = list->selectedIndex();
-    if (!db || row < 0)
+    const int key = selectedKey(list);
+    if (!db || key == 0)
         return;
-    const int key = list->key(row);
-    const int upperBound = list->subItem(row, 0).toInt();
+    int upperBound = 0;
+    if (!runReported(QStringLiteral("Nie można odczytać przedziału"),
+                     [&] { upperBound = PriceRanges::load(*db, axis, key).to; }))
+        return;
     auto dialog = TfrmRODefault::create<TfrmAddEditCennikWierszeKolumny>(
         this, upperBound, PriceRanges::duplicateTest(axis, key), PriceRanges::unit(axis));
     if (dialog->showModal() != mrOk)
@@ -212,14 +221,13 @@ void TfrmCennikWierszeKolumny::editRange(RangeAxis axis)
 void TfrmCennikWierszeKolumny::deleteRange(RangeAxis axis)
 {
     Connection *db = database();
-    TListView *list = rangeList(axis);
-    const int row = list->selectedIndex();
-    if (!db || row < 0)
+    const int key = selectedKey(rangeList(axis));
+    if (!db || key == 0)
         return;
-    const int key = list->key(row);
     if (!mayDelete(QStringLiteral("Nie można sprawdzić użycia przedziału"),
                    [&] { return PriceRanges::usage(*db, axis, key); },
-                   QStringLiteral("Nie można usunąć pozycji, gdyż jest ona używana w cennikach! "),
+                   QStringLiteral("Nie można usunąć pozycji, gdyż jest ona używana w "
+                                  "cennikach! "),
                    QStringLiteral("Czy na pewno usunąć pozycję?")))
         return;
     runReported(QStringLiteral("Nie można usunąć przedziału"),
@@ -243,10 +251,10 @@ void TfrmCennikWierszeKolumny::addGroup()
 void TfrmCennikWierszeKolumny::editGroup()
 {
     Connection *db = database();
-    const int row = lvGrupy->selectedIndex();
-    if (!db || row < 0)
+    const int key = selectedKey(lvGrupy);
+    if (!db || key == 0)
         return;
-    const PriceGroup group = PriceGroups::load(*db, lvGrupy->key(row));
+    const PriceGroup group = PriceGroups::load(*db, key);
     auto dialog = TfrmRODefault::create<TfrmAddEditGrupy>(this, group.name, group.blocked);
     if (dialog->showModal() != mrOk)
         return;
@@ -258,13 +266,13 @@ void TfrmCennikWierszeKolumny::editGroup()
 void TfrmCennikWierszeKolumny::deleteGroup()
 {
     Connection *db = database();
-    const int row = lvGrupy->selectedIndex();
-    if (!db || row < 0)
+    const int key = selectedKey(lvGrupy);
+    if (!db || key == 0)
         return;
-    const int key = lvGrupy->key(row);
     if (!mayDelete(QStringLiteral("Nie można sprawdzić, czy grupa jest używana w cennikach"),
                    [&] { return PriceGroups::usage(*db, key); },
-                   QStringLiteral("Nie można usunąć grupy, gdyż jest ona używana w cennikach! "),
+                   QStringLiteral("Nie można usunąć grupy, gdyż jest ona używana w "
+                                  "cennikach! "),
                    QStringLiteral("Czy na pewno usunąć grupę?")))
         return;
     PriceGroups::remove(*db, key);
