@@ -14,6 +14,8 @@
 #include <QLabel>
 #include <QLineEdit>
 #include <QPushButton>
+#include <QTabWidget>
+#include <QTest>
 
 #include <gtest/gtest.h>
 
@@ -255,4 +257,22 @@ TEST_F(RangeEditor, AGroupIsNeverDeletedWhileItsUsageCannotBeCounted)
         EXPECT_TRUE(box.text.contains("IDGRUPY")) << box.text.toStdString();
     }
     EXPECT_EQ(db.count(QStringLiteral("CENNIKI_KRAJ_GRUPY")), 2);
+}
+
+TEST_F(RangeEditor, DoubleClickingARangeCorrectsIt)
+{
+    addKilogramRange(db.connection(), 0, 1000);
+    auto form = open();
+    form->show();
+    form->PageControl1->setCurrentWidget(form->tsKilogramy);
+    TListView &list = *form->lvKolumny;
+    list.setSelectedIndex(0);
+    scriptedModalRunner().expect<TfrmAddEditCennikWierszeKolumny>(
+        [](TfrmAddEditCennikWierszeKolumny &d) {
+            EXPECT_EQ(d.value(), 1000);
+            return 2;
+        });
+    const QRect row = list.visualRect(list.model()->index(0, 0));
+    QTest::mouseDClick(list.viewport(), Qt::LeftButton, {}, row.center());
+    EXPECT_TRUE(scriptedModalRunner().allRun());
 }
