@@ -22,6 +22,28 @@ Connection *database()
     return session().Database;
 }
 
+// The key of the selected item; 0 when nothing is selected.
+int selectedKey(const TListView *list)
+{
+    const int row = list->selectedIndex();
+    return row < 0 ? 0 : list->key(row);
+}
+
+// A range or group used by a cell is refused; otherwise the user is asked.
+template <class CountUses>
+bool mayDelete(const QString &failure, CountUses &&countUses, const QString &refusal,
+               const QString &question)
+{
+    int used = 0;
+    if (!runReported(failure, [&] { used = countUses(); }))
+        return false;
+    if (used >= 1) {
+        Messages::inform(DeletionCaption, refusal);
+        return false;
+    }
+    return Messages::confirm(DeletionCaption, question);
+}
+
 } // namespace
 
 TfrmCennikWierszeKolumny::TfrmCennikWierszeKolumny(QWidget *owner) : TfrmRODefault(owner)
@@ -179,11 +201,13 @@ void TfrmCennikWierszeKolumny::editRange(RangeAxis axis)
 {
     Connection *db = database();
     TListView *list = rangeList(axis);
-    const int row = list->selectedIndex();
-    if (!db || row < 0)
+    const int key = selectedKey(list);
+    if (!db || key == 0)
         return;
-    const int key = list->key(row);
-    const int upperBound = list->subItem(row, 0).toInt();
+    int upperBound = 0;
+    if (!runReported(QStringLiteral("Nie można odczytać przedziału"),
+                     [&] { upperBound = PriceRanges::load(*db, axis, key).to; }))
+        return;
     auto dialog = TfrmRODefault::create<TfrmAddEditCennikWierszeKolumny>(
         this, upperBound, PriceRanges::duplicateTest(axis, key), PriceRanges::unit(axis));
     if (dialog->showModal() != mrOk)
@@ -197,22 +221,14 @@ void TfrmCennikWierszeKolumny::editRange(RangeAxis axis)
 void TfrmCennikWierszeKolumny::deleteRange(RangeAxis axis)
 {
     Connection *db = database();
-    TListView *list = rangeList(axis);
-    const int row = list->selectedIndex();
-    if (!db || row < 0)
+    const int key = selectedKey(rangeList(axis));
+    if (!db || key == 0)
         return;
-    const int key = list->key(row);
-    int used = 0;
-    if (!runReported(QStringLiteral("Nie można sprawdzić użycia przedziału"),
-                     [&] { used = PriceRanges::usage(*db, axis, key); }))
-        return;
-    if (used >= 1) {
-        Messages::inform(DeletionCaption,
-                         QStringLiteral("Nie można usunąć pozycji, gdyż jest ona używana w "
-                                        "cennikach! "));
-        return;
-    }
-    if (!Messages::confirm(DeletionCaption, QStringLiteral("Czy na pewno usunąć pozycję?")))
+    if (!mayDelete(QStringLiteral("Nie można sprawdzić użycia przedziału"),
+                   [&] { return PriceRanges::usage(*db, axis, key); },
+                   QStringLiteral("Nie można usunąć pozycji, gdyż jest ona używana w "
+                                  "cennikach! "),
+                   QStringLiteral("Czy na pewno usunąć pozycję?")))
         return;
     runReported(QStringLiteral("Nie można usunąć przedziału"),
                 [&] { PriceRanges::remove(*db, axis, key); });
@@ -235,10 +251,10 @@ void TfrmCennikWierszeKolumny::addGroup()
 void TfrmCennikWierszeKolumny::editGroup()
 {
     Connection *db = database();
-    const int row = lvGrupy->selectedIndex();
-    if (!db || row < 0)
+    const int key = selectedKey(lvGrupy);
+    if (!db || key == 0)
         return;
-    const PriceGroup group = PriceGroups::load(*db, lvGrupy->key(row));
+    const PriceGroup group = PriceGroups::load(*db, key);
     auto dialog = TfrmRODefault::create<TfrmAddEditGrupy>(this, group.name, group.blocked);
     if (dialog->showModal() != mrOk)
         return;
@@ -250,21 +266,14 @@ void TfrmCennikWierszeKolumny::editGroup()
 void TfrmCennikWierszeKolumny::deleteGroup()
 {
     Connection *db = database();
-    const int row = lvGrupy->selectedIndex();
-    if (!db || row < 0)
+    const int key = selectedKey(lvGrupy);
+    if (!db || key == 0)
         return;
-    const int key = lvGrupy->key(row);
-    int used = 0;
-    if (!runReported(QStringLiteral("Nie można sprawdzić, czy grupa jest używana w cennikach"),
-                     [&] { used = PriceGroups::usage(*db, key); }))
-        return;
-    if (used >= 1) {
-        Messages::inform(DeletionCaption,
-                         QStringLiteral("Nie można usunąć grupy, gdyż jest ona używana w "
-                                        "cennikach! "));
-        return;
-    }
-    if (!Messages::confirm(DeletionCaption, QStringLiteral("Czy na pewno usunąć grupę?")))
+    if (!mayDelete(QStringLiteral("Nie można sprawdzić, czy grupa jest używana w cennikach"),
+                   [&] { return PriceGroups::usage(*db, key); },
+                   QStringLiteral("Nie można usunąć grupy, gdyż jest ona używana w "
+                                  "cennikach! "),
+                   QStringLiteral("Czy na pewno usunąć grupę?")))
         return;
     PriceGroups::remove(*db, key);
     fillGroups();

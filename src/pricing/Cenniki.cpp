@@ -49,21 +49,9 @@ QPixmap kilometreAxis()
 
 } // namespace
 
-TfrmCenniki::TfrmCenniki(QWidget *owner) : TfrmRODefault(owner)
+TfrmCenniki::TfrmCenniki(QWidget *owner)
+    : TPriceListWindow(owner, QStringLiteral("frmCenniki"))
 {
-    setObjectName(QStringLiteral("frmCenniki"));
-    setWindowTitle(QStringLiteral("Cennik"));
-    setSizeGripEnabled(true);
-    lblHeader->setText(QStringLiteral("Cennik"));
-    lblHeaderDescription->setText(QStringLiteral("Edycja cennika"));
-    btnOk->hide();
-    btnCancel->setText(QStringLiteral("&Zamknij"));
-
-    lblCennik = new QLabel(QStringLiteral("Cennik:"), pnlClient);
-    cbCennik = new QComboBox(pnlClient);
-    cbCennik->setObjectName(QStringLiteral("cbCennik"));
-    cbCennik->setMinimumWidth(240);
-    lblCennik->setBuddy(cbCennik);
     lblKilogramy = new QLabel(QStringLiteral(" KILOGRAMY "), pnlClient);
     lblKilogramy->setObjectName(QStringLiteral("lblKilogramy"));
     lblKilogramy->setAlignment(Qt::AlignCenter);
@@ -83,10 +71,6 @@ TfrmCenniki::TfrmCenniki(QWidget *owner) : TfrmRODefault(owner)
     sgCennik->verticalHeader()->setDefaultSectionSize(16);
     sgCennik->verticalHeader()->setSectionResizeMode(QHeaderView::Interactive);
 
-    auto *top = new QHBoxLayout;
-    top->addWidget(lblCennik);
-    top->addWidget(cbCennik);
-    top->addStretch(1);
     auto *grid = new QGridLayout;
     grid->addWidget(lblKilogramy, 0, 1);
     grid->addWidget(imgKilometry, 1, 0);
@@ -95,7 +79,7 @@ TfrmCenniki::TfrmCenniki(QWidget *owner) : TfrmRODefault(owner)
     grid->setRowStretch(1, 1);
     auto *layout = new QVBoxLayout(pnlClient);
     layout->setContentsMargins(6, 6, 6, 6);
-    layout->addLayout(top);
+    layout->addLayout(chooserRow());
     layout->addLayout(grid, 1);
 
     connect(sgCennik, &QTableWidget::cellDoubleClicked, this, &TfrmCenniki::sgCennikDblClick);
@@ -104,7 +88,7 @@ TfrmCenniki::TfrmCenniki(QWidget *owner) : TfrmRODefault(owner)
 
 void TfrmCenniki::FormCreate()
 {
-    TfrmRODefault::FormCreate();
+    TPriceListWindow::FormCreate();
     fillPriceListCombo(cbCennik, session().Database);
     buildGrid();
     FillCells();

@@ -1,14 +1,13 @@
 #pragma once
 
-#include "DefaultWindow.h"
+#include "PriceListWindow.h"
 
-class QComboBox;
 class QLabel;
 class QTableWidget;
 
 // The grid of a price list's amounts: kilometre ranges down, kilogram
 // ranges across. Double-clicking a cell edits its amount.
-class TfrmCenniki : public TfrmRODefault
+class TfrmCenniki : public TPriceListWindow
 {
     Q_OBJECT
 
@@ -26,8 +25,6 @@ public:
     // Edits the selected cell.
     void sgCennikDblClick();
 
-    QLabel *lblCennik;
-    QComboBox *cbCennik;
     QLabel *lblKilogramy;
     QLabel *imgKilometry;
     QTableWidget *sgCennik;

@@ -26,21 +26,9 @@ QString clientsOf(int group)
 
 } // namespace
 
-TfrmCennikiKontrahenci::TfrmCennikiKontrahenci(QWidget *owner) : TfrmRODefault(owner)
+TfrmCennikiKontrahenci::TfrmCennikiKontrahenci(QWidget *owner)
+    : TPriceListWindow(owner, QStringLiteral("frmCennikiKontrahenci"))
 {
-    setObjectName(QStringLiteral("frmCennikiKontrahenci"));
-    setWindowTitle(QStringLiteral("Cennik"));
-    setSizeGripEnabled(true);
-    lblHeader->setText(QStringLiteral("Cennik"));
-    lblHeaderDescription->setText(QStringLiteral("Edycja cennika"));
-    btnOk->hide();
-    btnCancel->setText(QStringLiteral("&Zamknij"));
-
-    lblCennik = new QLabel(QStringLiteral("Cennik:"), pnlClient);
-    cbCennik = new QComboBox(pnlClient);
-    cbCennik->setObjectName(QStringLiteral("cbCennik"));
-    cbCennik->setMinimumWidth(240);
-    lblCennik->setBuddy(cbCennik);
     frameListView1 = new TframeListView(this, pnlClient, QStringLiteral("frameListView1"));
     TListView *list = frameListView1->lvMain;
     list->addColumn(QStringLiteral("ID"), 70);
@@ -54,20 +42,16 @@ TfrmCennikiKontrahenci::TfrmCennikiKontrahenci(QWidget *owner) : TfrmRODefault(o
     connect(frameListView1->BitBtn7, &QPushButton::clicked, frameListView1,
             &TframeListView::Refresh);
 
-    auto *top = new QHBoxLayout;
-    top->addWidget(lblCennik);
-    top->addWidget(cbCennik);
-    top->addStretch(1);
     auto *layout = new QVBoxLayout(pnlClient);
     layout->setContentsMargins(4, 4, 4, 4);
-    layout->addLayout(top);
+    layout->addLayout(chooserRow());
     layout->addWidget(frameListView1, 1);
     resize(700, 460);
 }
 
 void TfrmCennikiKontrahenci::FormCreate()
 {
-    TfrmRODefault::FormCreate();
+    TPriceListWindow::FormCreate();
     frameListView1->setROSetUserID(session().UserID);
     fillPriceListCombo(cbCennik, session().Database);
     LoadLVData();

@@ -1,23 +1,19 @@
 #pragma once
 
-#include "DefaultWindow.h"
+#include "PriceListWindow.h"
 
-class QComboBox;
-class QLabel;
 class TframeListView;
 
 // Shows which clients a price list applies to: for the main price list
 // the clients assigned to no group, for a group the clients assigned to
 // it. Items carry the client key (ID_KONTRAHENTA). Nothing is changed here.
-class TfrmCennikiKontrahenci : public TfrmRODefault
+class TfrmCennikiKontrahenci : public TPriceListWindow
 {
     Q_OBJECT
 
 public:
     explicit TfrmCennikiKontrahenci(QWidget *owner);
 
-    QLabel *lblCennik;
-    QComboBox *cbCennik;
     TframeListView *frameListView1;
 
 protected:

@@ -43,6 +43,14 @@ int addTo(Connection &connection, int upperBound)
 }
 
 template <class Range>
+PriceRange loadFrom(Connection &connection, int key)
+{
+    using A = Axis<Range>;
+    const Range range = Range(connection).SelectById(key);
+    return {range.*A::Key, range.*A::From, range.*A::To};
+}
+
+template <class Range>
 void changeIn(Connection &connection, int key, int upperBound)
 {
     Range range = Range(connection).SelectById(key);
@@ -135,6 +143,12 @@ bool PriceRanges::exists(Connection &connection, const QString &duplicateTest, i
     st.bind(QStringLiteral("wartosc"), upperBound);
     st.exec();
     return st.integer(QStringLiteral("ILOSC")) >= 1;
+}
+
+PriceRange PriceRanges::load(Connection &connection, RangeAxis axis, int key)
+{
+    return axis == RangeAxis::Kilometres ? loadFrom<TCenniki_kraj_wierszeObj>(connection, key)
+                                         : loadFrom<TCenniki_kraj_kolumnyObj>(connection, key);
 }
 
 int PriceRanges::totalCount(Connection &connection)

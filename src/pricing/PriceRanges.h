@@ -40,6 +40,9 @@ QString duplicateTest(RangeAxis axis, int exceptKey = 0);
 // Runs such a test for the value; true when it finds a range.
 bool exists(Connection &connection, const QString &duplicateTest, int upperBound);
 
+// One range by key, through the table object; key 0 when there is none.
+PriceRange load(Connection &connection, RangeAxis axis, int key);
+
 // Kilometre and kilogram ranges together, as the price-list menu counts
 // them before it opens the grid. Throws DbError.
 int totalCount(Connection &connection);

@@ -240,3 +240,21 @@ TEST_F(PriceGrid, TheClientViewerListsClientsOfThePriceList)
     EXPECT_EQ(list.key(0), 502);
     EXPECT_EQ(list.caption(0), "Beta");
 }
+
+TEST_F(PriceGrid, DoubleClickingACellOfTheGridEditsIt)
+{
+    seedGrid();
+    auto grid = openGrid();
+    grid->show();
+    QTableWidget &table = *grid->sgCennik;
+    const QRect cell = table.visualRect(table.model()->index(0, 1));
+    scriptedModalRunner().expect<TfrmAddEditCenniki>([](TfrmAddEditCenniki &d) {
+        EXPECT_EQ(d.lblKg->text(), "1001-24000");
+        EXPECT_EQ(d.lblKm->text(), "0-100");
+        return 2;
+    });
+    QTest::mouseClick(table.viewport(), Qt::LeftButton, {}, cell.center());
+    QTest::mouseDClick(table.viewport(), Qt::LeftButton, {}, cell.center());
+    EXPECT_TRUE(scriptedModalRunner().allRun());
+    EXPECT_EQ(grid->windowTitle(), "2,1");
+}

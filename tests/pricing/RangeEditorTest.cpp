@@ -14,6 +14,8 @@
 #include <QLabel>
 #include <QLineEdit>
 #include <QPushButton>
+#include <QTabWidget>
+#include <QTest>
 
 #include <gtest/gtest.h>
 
@@ -236,23 +238,50 @@ TEST_F(RangeEditor, GroupsAreAddedAndCorrectedWithTheirBlockedFlag)
               1);
 }
 
-// The suite's usage test of a group names the column IDGRUPY, which the
-// cells do not have: the database refuses the test, the refusal is shown
-// and the group stays, used or not.
-TEST_F(RangeEditor, AGroupIsNeverDeletedWhileItsUsageCannotBeCounted)
+TEST_F(RangeEditor, AUsedGroupIsKeptAnUnusedOneDeletedAfterAsking)
 {
     const int used = addGroup(db.connection(), QStringLiteral("Chłodnie"));
     addCell(db.connection(), used, addKilometreRange(db.connection(), 0, 50),
             addKilogramRange(db.connection(), 0, 1000), 300.0);
     addGroup(db.connection(), QStringLiteral("Pusta"));
     auto form = open();
-    for (int row : {0, 1}) {
-        form->lvGrupy->setSelectedIndex(row);
-        scriptedMessages().expect();
-        form->btnUsunGrupe->click();
-        const auto &box = scriptedMessages().shown().back();
-        EXPECT_EQ(box.caption, "Błąd");
-        EXPECT_TRUE(box.text.contains("IDGRUPY")) << box.text.toStdString();
-    }
+    const auto select = [&](const QString &name) {
+        for (int row = 0; row < form->lvGrupy->rowCount(); ++row) {
+            if (form->lvGrupy->text(row, 0) == name)
+                form->lvGrupy->setSelectedIndex(row);
+        }
+    };
+
+    select(QStringLiteral("Chłodnie"));
+    scriptedMessages().expect();
+    form->btnUsunGrupe->click();
+    EXPECT_EQ(scriptedMessages().shown().back().caption, "Usuwanie");
+    EXPECT_EQ(scriptedMessages().shown().back().text,
+              "Nie można usunąć grupy, gdyż jest ona używana w cennikach! ");
     EXPECT_EQ(db.count(QStringLiteral("CENNIKI_KRAJ_GRUPY")), 2);
+
+    select(QStringLiteral("Pusta"));
+    scriptedMessages().expect(MessageService::Yes);
+    form->btnUsunGrupe->click();
+    EXPECT_EQ(scriptedMessages().shown().back().text, "Czy na pewno usunąć grupę?");
+    EXPECT_EQ(db.count(QStringLiteral("CENNIKI_KRAJ_GRUPY")), 1);
+    EXPECT_EQ(db.count(QStringLiteral("CENNIKI_KRAJ_GRUPY"), QStringLiteral("NAZWA = 'Chłodnie'")), 1);
+}
+
+TEST_F(RangeEditor, DoubleClickingARangeCorrectsIt)
+{
+    addKilogramRange(db.connection(), 0, 1000);
+    auto form = open();
+    form->show();
+    form->PageControl1->setCurrentWidget(form->tsKilogramy);
+    TListView &list = *form->lvKolumny;
+    list.setSelectedIndex(0);
+    scriptedModalRunner().expect<TfrmAddEditCennikWierszeKolumny>(
+        [](TfrmAddEditCennikWierszeKolumny &d) {
+            EXPECT_EQ(d.value(), 1000);
+            return 2;
+        });
+    const QRect row = list.visualRect(list.model()->index(0, 0));
+    QTest::mouseDClick(list.viewport(), Qt::LeftButton, {}, row.center());
+    EXPECT_TRUE(scriptedModalRunner().allRun());
 }

@@ -70,11 +70,11 @@ TEST(Schema, EveryTableObjectFindsItsColumnsInOrderAndType)
     ASSERT_EQ(all.size(), 33u);
     for (const Expected &e : all) {
         const auto [names, types] = actualColumns(db.connection(), e.table);
-        const bool isView = e.table.startsWith(QLatin1Char('V'));
-        // Views may carry further columns after the listed ones.
-        EXPECT_EQ(isView ? names.mid(0, e.columns.size()) : names, e.columns) << e.table.toStdString();
-        if (!isView)
-            EXPECT_EQ(types, e.types) << e.table.toStdString();
+        // Views, and tables through computed columns, may carry further
+        // columns after the listed ones.
+        EXPECT_EQ(names.mid(0, e.columns.size()), e.columns) << e.table.toStdString();
+        if (!e.table.startsWith(QLatin1Char('V')))
+            EXPECT_EQ(types.left(e.types.size()), e.types) << e.table.toStdString();
     }
 }
 

@@ -61,7 +61,8 @@ Connection &pricingDemo(ShotContext &context)
                           "TARYFAWLASNA) VALUES (10, 2.7, 70, 35, 'Podwykonawca krajowy', 11, 0)"));
     run(c, QStringLiteral("INSERT INTO TARYFYPRZEWOZNIKA (KWOTA_ZA_KM, KWOTA_ZA_KM_LAD, "
                           "KWOTA_ZA_GODZ, KWOTA_ZA_PALETE, NAZWA_STAWKI, NUMER_STAWKI, "
-                          "TARYFAWLASNA) VALUES (12, 3.25, 80, 42, 'Podwykonawca chłodnia', 12, 0)"));
+                          "TARYFAWLASNA) "
+                          "VALUES (12, 3.25, 80, 42, 'Podwykonawca chłodnia', 12, 0)"));
     const char *cities[][2] = {{"Łódź", "90-001"}, {"Warszawa", "00-001"}, {"Kraków", "30-001"},
                                {"Poznań", "60-001"}, {"Gdańsk", "80-001"}};
     std::vector<int> keys;
@@ -105,9 +106,9 @@ void addPricingShots(ShotBook &book)
     book.add(QStringLiteral("frmCennikMenu"), form<TfrmCennikMenu>(nullptr));
     book.add(QStringLiteral("frmCennikWierszeKolumny"), form<TfrmCennikWierszeKolumny>(nullptr));
     book.add(QStringLiteral("frmAddEditCennikWierszeKolumny"),
-             form<TfrmAddEditCennikWierszeKolumny>(nullptr, 300,
-                                                   PriceRanges::duplicateTest(RangeAxis::Kilometres),
-                                                   PriceRanges::unit(RangeAxis::Kilometres)));
+             form<TfrmAddEditCennikWierszeKolumny>(
+                 nullptr, 300, PriceRanges::duplicateTest(RangeAxis::Kilometres),
+                 PriceRanges::unit(RangeAxis::Kilometres)));
     book.add(QStringLiteral("frmAddEditGrupy"),
              form<TfrmAddEditGrupy>(nullptr, QStringLiteral("Klienci kluczowi"), false));
     book.add(QStringLiteral("frmCenniki"), gridWithCell);
