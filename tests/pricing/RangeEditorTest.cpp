@@ -246,7 +246,7 @@ TEST_F(RangeEditor, AUsedGroupIsKeptAnUnusedOneDeletedAfterAsking)
     addGroup(db.connection(), QStringLiteral("Pusta"));
     auto form = open();
     const auto select = [&](const QString &name) {
-        for (int row = 0; row < form->lvGrupy->rowCount(); ++row) {
+        for (int row = 0; row < form->lvGrupy->itemCount(); ++row) {
             if (form->lvGrupy->text(row, 0) == name)
                 form->lvGrupy->setSelectedIndex(row);
         }
