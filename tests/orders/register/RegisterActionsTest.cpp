@@ -47,6 +47,18 @@ protected:
         EXPECT_EQ(box.icon, MessageService::Icon::Warning);
     }
 
+    // The actions that need a selected row, and the buttons standing for them.
+    static void expectRowActionsEnabled(const TfrmZlecPrzychodzace &form, bool enabled)
+    {
+        for (const QAction *action : {form.acPopraw, form.acDelete, form.acPowiel, form.acTowary,
+                                      form.acMiejsceZaladunku, form.acMiejscaRozladunku})
+            EXPECT_EQ(action->isEnabled(), enabled) << action->objectName().toStdString();
+        for (const QPushButton *button :
+             {form.frameListView1->BitBtn4, form.frameListView1->BitBtn6, form.btnPowiel,
+              form.BitBtn12, form.BitBtn13, form.BitBtn4})
+            EXPECT_EQ(button->isEnabled(), enabled) << button->objectName().toStdString();
+    }
+
     void addGoods(int orderKey, const QString &name)
     {
         TTowaryObj goods(db.connection());
@@ -74,12 +86,7 @@ TEST_F(RegisterActions, WithoutASelectedRowTheRowActionsDoNothing)
     QCoreApplication::sendPostedEvents();
     const int before = orderCount();
 
-    for (QAction *action : {form->acPopraw, form->acDelete, form->acPowiel, form->acTowary,
-                            form->acMiejsceZaladunku, form->acMiejscaRozladunku})
-        EXPECT_FALSE(action->isEnabled()) << action->objectName().toStdString();
-    for (QPushButton *button : {form->frameListView1->BitBtn4, form->frameListView1->BitBtn6,
-                                form->btnPowiel, form->BitBtn12, form->BitBtn13, form->BitBtn4})
-        EXPECT_FALSE(button->isEnabled()) << button->objectName().toStdString();
+    expectRowActionsEnabled(*form, false);
     EXPECT_TRUE(form->acDodaj->isEnabled());
     EXPECT_TRUE(form->acWzor->isEnabled());
     for (QAction *action : {form->acPopraw, form->acDelete, form->acShowDelete, form->acPowiel,
@@ -101,12 +108,7 @@ TEST_F(RegisterActions, SelectingARowEnablesTheRowActions)
     const int key = addOrder();
     const auto form = openRegister();
     select(*form, key);
-    for (QAction *action : {form->acPopraw, form->acDelete, form->acPowiel, form->acTowary,
-                            form->acMiejsceZaladunku, form->acMiejscaRozladunku})
-        EXPECT_TRUE(action->isEnabled()) << action->objectName().toStdString();
-    for (QPushButton *button : {form->frameListView1->BitBtn4, form->frameListView1->BitBtn6,
-                                form->btnPowiel, form->BitBtn12, form->BitBtn13, form->BitBtn4})
-        EXPECT_TRUE(button->isEnabled()) << button->objectName().toStdString();
+    expectRowActionsEnabled(*form, true);
     EXPECT_TRUE(form->acShowDelete->isEnabled());
 }
 
