@@ -6,8 +6,10 @@
 #include "ScriptedModalRunner.h"
 #include "SessionContext.h"
 #include "TBitBtn.h"
+#include "TDateEdit.h"
 #include "TestDatabase.h"
 #include "Transaction.h"
+#include "TfrmAddEditZlecenia_Przych.h"
 #include "ZlecPrzychodzace.h"
 
 #include <QAction>
@@ -109,4 +111,28 @@ TEST_F(Module, ASecondCallWorksForItsOwnUser)
     EXPECT_EQ(session().UserID, 2);
     ASSERT_EQ(scriptedMessages().shown().size(), 1u);
     EXPECT_EQ(scriptedMessages().shown()[0].caption, "Uprawnienia");
+}
+
+TEST_F(Module, AnOrderAddedFromTheRegisterIsSavedAndSelected)
+{
+    const int orders = db.count(QStringLiteral("ZLECENIA_PRZYCH"));
+    int selected = 0;
+    scriptedModalRunner().expect<TfrmZlecPrzychodzace>([&](TfrmZlecPrzychodzace &form) {
+        scriptedModalRunner().expect<TfrmAddEditZlecenia_Przych>(
+            [](TfrmAddEditZlecenia_Przych &editor) {
+                editor.deAwizo->setValue(DateTime::today());
+                editor.btnOk->click();
+                return editor.result();
+            });
+        form.frameListView1->BitBtn5->click();
+        const TListView *list = form.frameListView1->lvMain;
+        selected = list->key(list->selectedIndex());
+        form.btnOk->click();
+        return form.result();
+    });
+    EXPECT_EQ(runZlecPrzychodzace(1, &db.connection(), &transaction), 1);
+    EXPECT_TRUE(scriptedModalRunner().allRun());
+    EXPECT_EQ(db.count(QStringLiteral("ZLECENIA_PRZYCH")), orders + 1);
+    EXPECT_EQ(selected,
+              db.scalar(QStringLiteral("SELECT MAX(ID_ZLECENIA_PRZYCH) FROM ZLECENIA_PRZYCH")).toInt());
 }

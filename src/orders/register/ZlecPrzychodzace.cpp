@@ -3,6 +3,7 @@
 #include "ClosedOrderIcon.h"
 #include "LVFrame.h"
 #include "OrderListColumns.h"
+#include "OrderPlaces.h"
 #include "SessionContext.h"
 #include "Statement.h"
 #include "TBitBtn.h"
@@ -153,6 +154,9 @@ void TfrmZlecPrzychodzace::buildButtons(QWidget *parent)
     btnPowiel = button(QStringLiteral("Powiel"), QStringLiteral("btnPowiel"), parent);
     BitBtn5 = button(QStringLiteral("Wstaw z wzorca"), QStringLiteral("BitBtn5"), parent);
     BitBtn5->hide();
+    BitBtn12 = button(QStringLiteral("Towary"), QStringLiteral("BitBtn12"), parent);
+    BitBtn13 = button(QStringLiteral("M.załadunku"), QStringLiteral("BitBtn13"), parent);
+    BitBtn4 = button(QStringLiteral("M.Rozladunku"), QStringLiteral("BitBtn4"), parent);
     BitBtn6 = button(QStringLiteral("&Kilometry"), QStringLiteral("BitBtn6"), parent);
     btnCenniki = button(QStringLiteral("-> *.CSV"), QStringLiteral("btnCenniki"), parent);
 
@@ -160,6 +164,9 @@ void TfrmZlecPrzychodzace::buildButtons(QWidget *parent)
     layout->setContentsMargins(6, 4, 6, 4);
     layout->addWidget(btnPowiel);
     layout->addWidget(BitBtn5);
+    layout->addWidget(BitBtn12);
+    layout->addWidget(BitBtn13);
+    layout->addWidget(BitBtn4);
     layout->addStretch(1);
     layout->addWidget(BitBtn6);
     layout->addWidget(btnCenniki);
@@ -190,10 +197,19 @@ void TfrmZlecPrzychodzace::buildActions()
         addAction(created);
         return created;
     };
+    acDodaj = action(QStringLiteral("&Dodaj"), QStringLiteral("acDodaj"));
+    acPopraw = action(QStringLiteral("&Popraw"), QStringLiteral("acPopraw"));
     acDelete = action(QStringLiteral("&Usuń"), QStringLiteral("acDelete"));
     acShowDelete = action(QStringLiteral("acShowDelete"), QStringLiteral("acShowDelete"));
     acShowDelete->setShortcut(QKeySequence(Qt::CTRL | Qt::ALT | Qt::Key_U));
     acPowiel = action(QStringLiteral("Powiel"), QStringLiteral("acPowiel"));
+    acWzor = action(QStringLiteral("Wstaw z wzorca"), QStringLiteral("acWzor"));
+    acTowary = action(QStringLiteral("Towary"), QStringLiteral("acTowary"));
+    acAddLadunki = action(QStringLiteral("Doda&j ładunki"), QStringLiteral("acAddLadunki"));
+    acMiejsceZaladunku
+        = action(QStringLiteral("M.załadunku"), QStringLiteral("acMiejsceZaladunku"));
+    acMiejscaRozladunku
+        = action(QStringLiteral("M.Rozladunku"), QStringLiteral("acMiejscaRozladunku"));
     acUsunLadunek = action(QStringLiteral("Usuń ładunek"), QStringLiteral("acUsunLadunek"));
     acAdvancedEdit
         = action(QStringLiteral("Zaawansowana edycja"), QStringLiteral("acAdvancedEdit"));
@@ -203,21 +219,33 @@ void TfrmZlecPrzychodzace::buildActions()
     for (QAction *withShortcut : {acShowDelete, acAdvancedEdit})
         withShortcut->setShortcutContext(Qt::WidgetWithChildrenShortcut);
 
+    connect(acDodaj, &QAction::triggered, this, &TfrmZlecPrzychodzace::acDodajExecute);
+    connect(acPopraw, &QAction::triggered, this, &TfrmZlecPrzychodzace::acPoprawExecute);
+    connect(frameListView1->lvMain, &TListView::dblClick, acPopraw, &QAction::trigger);
     connect(acDelete, &QAction::triggered, this, &TfrmZlecPrzychodzace::acDeleteExecute);
     connect(acShowDelete, &QAction::triggered, this, &TfrmZlecPrzychodzace::acDeleteExecute);
     connect(acPowiel, &QAction::triggered, this, &TfrmZlecPrzychodzace::acPowielExecute);
+    connect(acWzor, &QAction::triggered, this, &TfrmZlecPrzychodzace::acWzorExecute);
+    connect(acTowary, &QAction::triggered, this, &TfrmZlecPrzychodzace::acTowaryExecute);
+    connect(acAddLadunki, &QAction::triggered, this, &TfrmZlecPrzychodzace::acTowaryExecute);
+    connect(acMiejsceZaladunku, &QAction::triggered, this,
+            [this] { openPlace(OrderPlaces::Loading); });
+    connect(acMiejscaRozladunku, &QAction::triggered, this,
+            [this] { openPlace(OrderPlaces::Unloading); });
     connect(acUsunLadunek, &QAction::triggered, this,
             &TfrmZlecPrzychodzace::acUsunLadunekExecute);
     connect(acAdvancedEdit, &QAction::triggered, this,
             &TfrmZlecPrzychodzace::acAdvancedEditExecute);
     connect(Zamknij1, &QAction::triggered, this, &TfrmZlecPrzychodzace::Zamknij1Click);
 
+    standFor(frameListView1->BitBtn5, acDodaj);
+    standFor(frameListView1->BitBtn4, acPopraw);
     standFor(frameListView1->BitBtn6, acDelete);
-    // Adding and correcting belong to the order editor, which the register
-    // does not open yet: no button offers them.
-    frameListView1->BitBtn5->hide();
-    frameListView1->BitBtn4->hide();
     standFor(btnPowiel, acPowiel);
+    standFor(BitBtn5, acWzor);
+    standFor(BitBtn12, acTowary);
+    standFor(BitBtn13, acMiejsceZaladunku);
+    standFor(BitBtn4, acMiejscaRozladunku);
     connect(frameListView1->BitBtn7, &QPushButton::clicked, frameListView1,
             &TframeListView::Refresh);
     connect(btnCenniki, &QPushButton::clicked, this, &TfrmZlecPrzychodzace::btnCennikiClick);
@@ -238,7 +266,7 @@ void TfrmZlecPrzychodzace::extendPopupMenu()
 {
     QMenu *menu = frameListView1->pmMain;
     QAction *first = menu->actions().value(0);
-    const QList<QAction *> own{acDelete, Zamknij1};
+    const QList<QAction *> own{acDodaj, acPopraw, acDelete, Zamknij1};
     menu->insertActions(first, own);
     for (const QString &caption : {QStringLiteral("Do&kumenty"), QStringLiteral("Ko&nta")}) {
         auto *disabled = new QAction(caption, menu);

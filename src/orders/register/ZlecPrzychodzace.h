@@ -58,14 +58,24 @@ public:
     QWidget *pnlBttns;
     TBitBtn *btnPowiel;
     TBitBtn *BitBtn5;     // "Wstaw z wzorca", hidden
+    TBitBtn *BitBtn12;    // "Towary"
+    TBitBtn *BitBtn13;    // "M.załadunku"
+    TBitBtn *BitBtn4;     // "M.Rozladunku"
     TBitBtn *BitBtn6;     // "&Kilometry"
     TBitBtn *btnCenniki;  // "-> *.CSV"
 
     QLabel *lblKwota;
 
+    QAction *acDodaj;
+    QAction *acPopraw;         // also a double click on a row
     QAction *acDelete;
     QAction *acShowDelete;
     QAction *acPowiel;
+    QAction *acWzor;
+    QAction *acTowary;
+    QAction *acAddLadunki;     // the goods again, without a control
+    QAction *acMiejsceZaladunku;
+    QAction *acMiejscaRozladunku;
     QAction *acUsunLadunek;
     QAction *acAdvancedEdit;   // Ctrl+A
     QAction *Zamknij1;         // popup "Zamknij\Otwórz"
@@ -83,14 +93,23 @@ private:
     void extendPopupMenu();
     void fillPartnerList();
 
+    void acDodajExecute();
+    void acPoprawExecute();
     void acDeleteExecute();
     void acPowielExecute();
+    void acWzorExecute();
+    void acTowaryExecute();
+    // The loading (1) or unloading (2) place of the selected order, made
+    // empty first when the order has none.
+    void openPlace(int type);
     void acUsunLadunekExecute();
     void acAdvancedEditExecute();
     void Zamknij1Click();
     void btnCennikiClick();
     void BitBtn6Click();
 
+    // The order editor, modally; returns its modal result.
+    int runEditor(int orderKey, int mode);
     // Reloads the list and selects the order, scrolled into view.
     void reloadAndSelect(int orderKey);
     // Runs an action's work; a database failure is shown, not thrown into

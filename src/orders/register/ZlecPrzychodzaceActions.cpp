@@ -7,7 +7,6 @@
 #include "LVFrame.h"
 #include "Miasta.h"
 #include "MessageService.h"
-#include "OrderCopy.h"
 #include "Privileges.h"
 #include "RegisterExport.h"
 #include "SessionContext.h"
@@ -75,23 +74,6 @@ void TfrmZlecPrzychodzace::acDeleteExecute()
     }
     list->deleteItem(row);
     UpdateControls();
-}
-
-void TfrmZlecPrzychodzace::acPowielExecute()
-{
-    const int source = selectedOrder();
-    if (source == 0 || !Privileges::require(Privileges::Add, this))
-        return;
-    if (!Messages::confirm(QStringLiteral("Kopiowaie zlecenia"),
-                           QStringLiteral("Czy powielić wybraną pozycję?")))
-        return;
-    guarded([&] {
-        const int copy = copyOrderWithPlacesAndGoods(*session().Database, transaction(), source);
-        if (copy == 0)
-            return;
-        reloadAndSelect(copy);
-        frameListView1->lvMain->setFocus();
-    });
 }
 
 void TfrmZlecPrzychodzace::acUsunLadunekExecute()

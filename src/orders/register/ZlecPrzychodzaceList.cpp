@@ -55,6 +55,7 @@ void TfrmZlecPrzychodzace::LoadLVData()
 void TfrmZlecPrzychodzace::UpdateControls()
 {
     const bool selected = frameListView1->lvMain->selectedIndex() >= 0;
-    for (QAction *action : {acDelete, acPowiel})
+    for (QAction *action : {acPopraw, acDelete, acPowiel, acTowary, acMiejsceZaladunku,
+                            acMiejscaRozladunku})
         action->setEnabled(selected);
 }

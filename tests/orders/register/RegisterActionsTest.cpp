@@ -9,6 +9,7 @@
 #include "TBitBtn.h"
 #include "TMiejsca_zlecObj.h"
 #include "TTowaryObj.h"
+#include "TfrmAddEditZlecenia_Przych.h"
 
 #include <QAction>
 #include <QComboBox>
@@ -46,13 +47,16 @@ protected:
         EXPECT_EQ(box.icon, MessageService::Icon::Warning);
     }
 
-    void addPlace(int orderKey, int type, const QString &address)
+    // The actions that need a selected row, and the buttons standing for them.
+    static void expectRowActionsEnabled(const TfrmZlecPrzychodzace &form, bool enabled)
     {
-        TMiejsca_zlecObj place(db.connection());
-        place.ID_ZLECENIA = orderKey;
-        place.ID_ZRP = type;
-        place.ADRES1 = address;
-        ASSERT_TRUE(place.Insert());
+        for (const QAction *action : {form.acPopraw, form.acDelete, form.acPowiel, form.acTowary,
+                                      form.acMiejsceZaladunku, form.acMiejscaRozladunku})
+            EXPECT_EQ(action->isEnabled(), enabled) << action->objectName().toStdString();
+        for (const QPushButton *button :
+             {form.frameListView1->BitBtn4, form.frameListView1->BitBtn6, form.btnPowiel,
+              form.BitBtn12, form.BitBtn13, form.BitBtn4})
+            EXPECT_EQ(button->isEnabled(), enabled) << button->objectName().toStdString();
     }
 
     void addGoods(int orderKey, const QString &name)
@@ -82,14 +86,16 @@ TEST_F(RegisterActions, WithoutASelectedRowTheRowActionsDoNothing)
     QCoreApplication::sendPostedEvents();
     const int before = orderCount();
 
-    EXPECT_FALSE(form->acDelete->isEnabled());
-    EXPECT_FALSE(form->acPowiel->isEnabled());
-    EXPECT_FALSE(form->frameListView1->BitBtn6->isEnabled());
-    EXPECT_FALSE(form->btnPowiel->isEnabled());
-    for (QAction *action : {form->acDelete, form->acShowDelete, form->acPowiel, form->Zamknij1,
-                            form->acAdvancedEdit, form->acUsunLadunek})
+    expectRowActionsEnabled(*form, false);
+    EXPECT_TRUE(form->acDodaj->isEnabled());
+    EXPECT_TRUE(form->acWzor->isEnabled());
+    for (QAction *action : {form->acPopraw, form->acDelete, form->acShowDelete, form->acPowiel,
+                            form->Zamknij1, form->acAdvancedEdit, form->acUsunLadunek,
+                            form->acTowary, form->acAddLadunki, form->acMiejsceZaladunku,
+                            form->acMiejscaRozladunku})
         action->trigger();
     QTest::keyClick(list, Qt::Key_A, Qt::ControlModifier);
+    Q_EMIT list->dblClick();
 
     EXPECT_TRUE(scriptedMessages().shown().empty());
     EXPECT_TRUE(scriptedModalRunner().ran().empty());
@@ -102,9 +108,7 @@ TEST_F(RegisterActions, SelectingARowEnablesTheRowActions)
     const int key = addOrder();
     const auto form = openRegister();
     select(*form, key);
-    EXPECT_TRUE(form->acDelete->isEnabled());
-    EXPECT_TRUE(form->acPowiel->isEnabled());
-    EXPECT_TRUE(form->frameListView1->BitBtn6->isEnabled());
+    expectRowActionsEnabled(*form, true);
     EXPECT_TRUE(form->acShowDelete->isEnabled());
 }
 
@@ -209,8 +213,14 @@ TEST_F(RegisterActions, CopyMakesOneOrderWithItsFirstPlacesAndSixGoodsColumns)
     select(*form, source);
 
     scriptedMessages().expect(MessageService::Yes);
+    scriptedModalRunner().expect<TfrmAddEditZlecenia_Przych>(
+        [](TfrmAddEditZlecenia_Przych &editor) {
+            editor.btnCancel->click();
+            return editor.result();
+        });
     form->btnPowiel->click();
 
+    EXPECT_TRUE(scriptedModalRunner().allRun());
     ASSERT_EQ(scriptedMessages().shown().size(), 1u);
     EXPECT_EQ(scriptedMessages().shown()[0].caption, "Kopiowaie zlecenia");
     EXPECT_EQ(scriptedMessages().shown()[0].text, "Czy powielić wybraną pozycję?");

@@ -3,6 +3,7 @@
 #include "DemoSeeder.h"
 #include "LVFrame.h"
 #include "SessionContext.h"
+#include "TMiejsca_zlecObj.h"
 
 #include <gtest/gtest.h>
 
@@ -41,6 +42,16 @@ int RegisterFixture::addOrder(const std::function<void(TZlecenia_przychObj &)> &
         change(order);
     EXPECT_TRUE(order.Insert());
     return order.GetMaxId();
+}
+
+int RegisterFixture::addPlace(int orderKey, int type, const QString &street)
+{
+    TMiejsca_zlecObj place(db.connection());
+    place.ID_ZLECENIA = orderKey;
+    place.ID_ZRP = type;
+    place.ADRES1 = street;
+    EXPECT_TRUE(place.Insert());
+    return place.GetMaxId();
 }
 
 TZlecenia_przychObj RegisterFixture::order(int key)

@@ -26,6 +26,9 @@ protected:
     // Inserts an order dated today (unless the change says otherwise) and
     // returns its key.
     int addOrder(const std::function<void(TZlecenia_przychObj &)> &change = {});
+    // Inserts a place of the type (1 loading, 2 unloading) with the street
+    // of its first address; returns its key.
+    int addPlace(int orderKey, int type, const QString &street);
     TZlecenia_przychObj order(int key);
     int orderCount();
     // How many orders the register lists with its initial range, a month

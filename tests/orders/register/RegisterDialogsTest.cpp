@@ -1,0 +1,351 @@
+// The register opening the order's own dialogs: editor, goods, places and
+// the day for the templates.
+#include "LVFrame.h"
+#include "OrderListColumns.h"
+#include "RegisterFixture.h"
+#include "ScriptedMessages.h"
+#include "ScriptedModalRunner.h"
+#include "TBitBtn.h"
+#include "TDateEdit.h"
+#include "TMiejsca_zlecObj.h"
+#include "TfrmAddEditZlecenia_Przych.h"
+#include "TfrmAdresy.h"
+#include "TfrmDataWzorca.h"
+#include "TfrmTowaryNaZleceniu.h"
+
+#include <QAction>
+#include <QComboBox>
+#include <QDateEdit>
+#include <QLineEdit>
+#include <QTest>
+
+namespace {
+
+using Col = OrderListColumns::Column;
+using Editor = TfrmAddEditZlecenia_Przych;
+
+const QString RefusalText
+    = QStringLiteral("Uprawnienia do tej operacji nie zostały nadane przez administratora.");
+
+int selectedKey(const TfrmZlecPrzychodzace &form)
+{
+    const TListView *list = form.frameListView1->lvMain;
+    const int row = list->selectedIndex();
+    return row < 0 ? 0 : list->key(row);
+}
+
+} // namespace
+
+class RegisterDialogs : public RegisterFixture
+{
+protected:
+    int templateCount()
+    {
+        return db.count(QStringLiteral("ZLECENIA_PRZYCH"),
+                        QStringLiteral("DATA IS NULL AND PALETYPLAN<>0"));
+    }
+
+    int ordersOn(const QDate &day)
+    {
+        return db.count(QStringLiteral("ZLECENIA_PRZYCH"),
+                        QStringLiteral("DATA = '%1'").arg(day.toString(Qt::ISODate)));
+    }
+
+    // The day prompt answers OK with the day.
+    static void promptAnswers(const QDate &day)
+    {
+        scriptedModalRunner().expect<TfrmDataWzorca>([day](TfrmDataWzorca &prompt) {
+            prompt.deData->setDate(day);
+            prompt.btnOk->click();
+            return prompt.result();
+        });
+    }
+
+    void expectRefusals(std::size_t count)
+    {
+        ASSERT_EQ(scriptedMessages().shown().size(), count);
+        for (const ScriptedMessages::Shown &box : scriptedMessages().shown()) {
+            EXPECT_EQ(box.caption, "Uprawnienia");
+            EXPECT_EQ(box.text, RefusalText);
+            EXPECT_EQ(box.icon, MessageService::Icon::Warning);
+        }
+    }
+};
+
+TEST_F(RegisterDialogs, AddOpensAnEmptyEditorAndSelectsTheSavedOrder)
+{
+    const auto form = openRegister();
+    const int rows = form->frameListView1->lvMain->itemCount();
+    const int orders = orderCount();
+    ASSERT_TRUE(form->frameListView1->BitBtn5->isVisibleTo(form.get()));
+    scriptedModalRunner().expect<Editor>([&](Editor &editor) {
+        EXPECT_EQ(editor.mode(), Editor::Add);
+        EXPECT_EQ(editor.orderKey(), 0);
+        EXPECT_EQ(editor.parentWidget(), form.get());
+        editor.cbKlient->setCurrentIndex(editor.cbKlient->findData(2));
+        editor.deAwizo->setValue(DateTime::today());
+        editor.edPojazd->setText(QStringLiteral("WX 7070"));
+        editor.btnOk->click();
+        return editor.result();
+    });
+
+    form->frameListView1->BitBtn5->click();
+
+    EXPECT_TRUE(scriptedModalRunner().allRun());
+    ASSERT_EQ(orderCount(), orders + 1);
+    const int added
+        = db.scalar(QStringLiteral("SELECT MAX(ID_ZLECENIA_PRZYCH) FROM ZLECENIA_PRZYCH")).toInt();
+    EXPECT_EQ(form->frameListView1->lvMain->itemCount(), rows + 1);
+    EXPECT_EQ(selectedKey(*form), added);
+    EXPECT_EQ(cell(*form, added, Col::NrRej), "WX 7070");
+    EXPECT_TRUE(form->acPopraw->isEnabled());
+    EXPECT_TRUE(scriptedMessages().shown().empty());
+}
+
+TEST_F(RegisterDialogs, ACancelledAddChangesNeitherTheOrdersNorTheList)
+{
+    const int key = addOrder();
+    const auto form = openRegister();
+    select(*form, key);
+    const int orders = orderCount();
+    const int addedMeanwhile = addOrder();
+    scriptedModalRunner().expect<Editor>([](Editor &editor) {
+        editor.edPojazd->setText(QStringLiteral("WX 7070"));
+        editor.btnCancel->click();
+        return editor.result();
+    });
+
+    form->acDodaj->trigger();
+
+    EXPECT_TRUE(scriptedModalRunner().allRun());
+    EXPECT_EQ(orderCount(), orders + 1);
+    EXPECT_FALSE(listed(*form, addedMeanwhile));   // not reloaded
+    EXPECT_EQ(selectedKey(*form), key);
+}
+
+TEST_F(RegisterDialogs, EditOpensTheSelectedOrderAndShowsItAgainAfterOk)
+{
+    const int key = addOrder([](TZlecenia_przychObj &o) { o.POJAZD = QStringLiteral("EL 1"); });
+    const auto form = openRegister();
+    select(*form, key);
+    ASSERT_TRUE(form->frameListView1->BitBtn4->isVisibleTo(form.get()));
+    scriptedModalRunner().expect<Editor>([&](Editor &editor) {
+        EXPECT_EQ(editor.mode(), Editor::Edit);
+        EXPECT_EQ(editor.orderKey(), key);
+        EXPECT_EQ(editor.edPojazd->text(), "EL 1");
+        editor.edPojazd->setText(QStringLiteral("EL 2"));
+        editor.btnOk->click();
+        return editor.result();
+    });
+
+    form->frameListView1->BitBtn4->click();
+
+    EXPECT_TRUE(scriptedModalRunner().allRun());
+    EXPECT_EQ(order(key).POJAZD, "EL 2");
+    EXPECT_EQ(cell(*form, key, Col::NrRej), "EL 2");
+    EXPECT_EQ(selectedKey(*form), key);
+}
+
+TEST_F(RegisterDialogs, ADoubleClickOnARowEditsThatOrder)
+{
+    const int key = addOrder();
+    const auto form = openRegister();
+    form->show();
+    TListView *list = form->frameListView1->lvMain;
+    select(*form, key);
+    const QModelIndex index = list->model()->index(list->findByKey(key), 0);
+    const QPoint at = list->visualRect(index).center();
+    int opened = 0;
+    scriptedModalRunner().expect<Editor>([&](Editor &editor) {
+        opened = editor.orderKey();
+        EXPECT_EQ(editor.mode(), Editor::Edit);
+        return 2;
+    });
+
+    QTest::mouseDClick(list->viewport(), Qt::LeftButton, {}, at);
+
+    EXPECT_TRUE(scriptedModalRunner().allRun());
+    EXPECT_EQ(opened, key);
+}
+
+TEST_F(RegisterDialogs, WithoutTheRightsAddAndEditAreRefusedBeforeAnythingOpens)
+{
+    const int key = addOrder();
+    setUser(3);   // may only run the register
+    const auto form = openRegister();
+    select(*form, key);
+    for (int i = 0; i < 3; ++i)
+        scriptedMessages().expect();
+
+    form->frameListView1->BitBtn5->click();
+    form->frameListView1->BitBtn4->click();
+    Q_EMIT form->frameListView1->lvMain->dblClick();
+
+    expectRefusals(3);
+    EXPECT_TRUE(scriptedModalRunner().ran().empty());
+}
+
+TEST_F(RegisterDialogs, AUserWhoMayNotDeleteStillAddsAndEdits)
+{
+    const int key = addOrder();
+    setUser(2);
+    const auto form = openRegister();
+    select(*form, key);
+    for (int i = 0; i < 2; ++i)
+        scriptedModalRunner().expect<Editor>([](Editor &editor) { return editor.result(); });
+    form->acDodaj->trigger();
+    form->acPopraw->trigger();
+    EXPECT_TRUE(scriptedModalRunner().allRun());
+    EXPECT_TRUE(scriptedMessages().shown().empty());
+}
+
+TEST_F(RegisterDialogs, CopyOpensTheEditorOnTheCopyWhichGetsAFreshNumberOnSave)
+{
+    const int source = addOrder([](TZlecenia_przychObj &o) { o.NUMER = 4242; });
+    const auto form = openRegister();
+    select(*form, source);
+    int edited = 0;
+    scriptedMessages().expect(MessageService::Yes);
+    scriptedModalRunner().expect<Editor>([&](Editor &editor) {
+        edited = editor.orderKey();
+        EXPECT_EQ(editor.mode(), Editor::Edit);
+        EXPECT_EQ(editor.order().NUMER, 0);
+        editor.btnOk->click();
+        return editor.result();
+    });
+
+    form->acPowiel->trigger();
+
+    EXPECT_TRUE(scriptedModalRunner().allRun());
+    const int copy
+        = db.scalar(QStringLiteral("SELECT MAX(ID_ZLECENIA_PRZYCH) FROM ZLECENIA_PRZYCH")).toInt();
+    EXPECT_EQ(edited, copy);
+    EXPECT_NE(copy, source);
+    EXPECT_GT(order(copy).NUMER, 0);
+    EXPECT_EQ(selectedKey(*form), copy);
+    EXPECT_EQ(cell(*form, copy, Col::Numer),
+              QString::number(order(copy).NUMER).rightJustified(8, u'0'));
+}
+
+TEST_F(RegisterDialogs, TemplatesGoOnAnEmptyDayWithoutAQuestionAndOnlyOnce)
+{
+    const QDate day = QDate::currentDate().addYears(3);
+    const int templates = templateCount();
+    ASSERT_GT(templates, 0);
+    const auto form = openRegister();
+    const int rows = form->frameListView1->lvMain->itemCount();
+
+    promptAnswers(day);
+    form->acWzor->trigger();
+    EXPECT_EQ(ordersOn(day), templates);
+    EXPECT_EQ(templateCount(), 0);
+    EXPECT_EQ(form->frameListView1->lvMain->itemCount(), rows);   // not reloaded
+
+    promptAnswers(day.addDays(1));
+    form->BitBtn5->click();
+    EXPECT_EQ(ordersOn(day.addDays(1)), 0);
+    EXPECT_TRUE(scriptedModalRunner().allRun());
+    EXPECT_TRUE(scriptedMessages().shown().empty());
+}
+
+TEST_F(RegisterDialogs, TemplatesOnADayWithOrdersAskFirst)
+{
+    const QDate day = QDate::currentDate();
+    addOrder();
+    const int before = ordersOn(day);
+    const int templates = templateCount();
+    const auto form = openRegister();
+
+    promptAnswers(day);
+    scriptedMessages().expect(MessageService::No);
+    form->acWzor->trigger();
+    ASSERT_EQ(scriptedMessages().shown().size(), 1u);
+    const ScriptedMessages::Shown &question = scriptedMessages().shown()[0];
+    EXPECT_EQ(question.caption, "Wzorzec");
+    EXPECT_EQ(question.text, "Są już wysyłki na wybrany dzień. Dodać wysyłki wzorcowe?");
+    EXPECT_EQ(question.icon, MessageService::Icon::Question);
+    EXPECT_EQ(ordersOn(day), before);
+    EXPECT_EQ(templateCount(), templates);
+
+    promptAnswers(day);
+    scriptedMessages().expect(MessageService::Yes);
+    form->acWzor->trigger();
+    EXPECT_EQ(ordersOn(day), before + templates);
+    EXPECT_EQ(templateCount(), 0);
+}
+
+TEST_F(RegisterDialogs, ACancelledDayPromptInsertsNothing)
+{
+    const int orders = orderCount();
+    const auto form = openRegister();
+    scriptedModalRunner().expect<TfrmDataWzorca>([](TfrmDataWzorca &prompt) {
+        prompt.btnCancel->click();
+        return prompt.result();
+    });
+    form->acWzor->trigger();
+    EXPECT_TRUE(scriptedModalRunner().allRun());
+    EXPECT_EQ(orderCount(), orders);
+    EXPECT_GT(templateCount(), 0);
+}
+
+TEST_F(RegisterDialogs, GoodsOpenForTheSelectedOrderFromTheButtonAndTheLoadsAction)
+{
+    const int key = addOrder();
+    const auto form = openRegister();
+    select(*form, key);
+    std::vector<int> opened;
+    for (int i = 0; i < 2; ++i)
+        scriptedModalRunner().expect<TfrmTowaryNaZleceniu>([&](TfrmTowaryNaZleceniu &goods) {
+            opened.push_back(goods.orderKey());
+            EXPECT_EQ(goods.parentWidget(), form.get());
+            return 1;
+        });
+
+    form->BitBtn12->click();
+    form->acAddLadunki->trigger();
+
+    EXPECT_EQ(opened, (std::vector<int>{key, key}));
+}
+
+TEST_F(RegisterDialogs, ALoadingPlaceIsMadeForAnOrderWithoutOneAndSavedFromTheDialog)
+{
+    const int key = addOrder();
+    const auto form = openRegister();
+    select(*form, key);
+    const QString ofOrder = QStringLiteral("ID_ZLECENIA = %1 AND ID_ZRP = 1").arg(key);
+    ASSERT_EQ(db.count(QStringLiteral("MIEJSCA_ZLEC"), ofOrder), 0);
+    scriptedModalRunner().expect<TfrmAdresy>([&](TfrmAdresy &places) {
+        EXPECT_EQ(places.place().ID_ZLECENIA, key);
+        EXPECT_EQ(places.place().ID_ZRP, 1);
+        EXPECT_NE(places.place().ID_MIEJSCA_ZLEC, 0);
+        places.edUlica[0]->setText(QStringLiteral("Portowa 5"));
+        places.btnOk->click();
+        return places.result();
+    });
+
+    form->BitBtn13->click();
+
+    EXPECT_TRUE(scriptedModalRunner().allRun());
+    EXPECT_EQ(db.count(QStringLiteral("MIEJSCA_ZLEC"), ofOrder), 1);
+    EXPECT_EQ(db.scalar("SELECT ADRES1 FROM MIEJSCA_ZLEC WHERE " + ofOrder), "Portowa 5");
+}
+
+TEST_F(RegisterDialogs, AnUnloadingPlaceOpensTheOrdersExistingRecord)
+{
+    const int key = addOrder();
+    addPlace(key, 1, QStringLiteral("Załadunek"));
+    const int unloading = addPlace(key, 2, QStringLiteral("Rozładunek"));
+    const int places = db.count(QStringLiteral("MIEJSCA_ZLEC"));
+    const auto form = openRegister();
+    select(*form, key);
+    scriptedModalRunner().expect<TfrmAdresy>([&](TfrmAdresy &dialog) {
+        EXPECT_EQ(dialog.place().ID_MIEJSCA_ZLEC, unloading);
+        EXPECT_EQ(dialog.edUlica[0]->text(), "Rozładunek");
+        return 2;
+    });
+
+    form->BitBtn4->click();
+
+    EXPECT_TRUE(scriptedModalRunner().allRun());
+    EXPECT_EQ(db.count(QStringLiteral("MIEJSCA_ZLEC")), places);
+}
