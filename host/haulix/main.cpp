@@ -8,11 +8,14 @@
 #include "HostOptions.h"
 #include "ModuleEntryPoints.h"
 #include "Statement.h"
+#include "TerminationSignals.h"
 #include "Transaction.h"
 
 #include <QApplication>
 #include <QDir>
 #include <QLibrary>
+#include <QLibraryInfo>
+#include <QTranslator>
 #include <QMessageBox>
 #include <QTextStream>
 
@@ -64,6 +67,12 @@ int main(int argc, char **argv)
     QApplication::setApplicationName(QStringLiteral("Haulix"));
     QApplication::setApplicationVersion(QStringLiteral(HAULIX_VERSION));
     QLocale::setDefault(QLocale(QLocale::Polish, QLocale::Poland));
+    // Qt's own dialogs (print preview, file prompts, message box buttons)
+    // speak Polish too; without the translations they stay English.
+    QTranslator qtTranslations;
+    if (qtTranslations.load(QLocale(), QStringLiteral("qtbase"), QStringLiteral("_"),
+                            QLibraryInfo::path(QLibraryInfo::TranslationsPath)))
+        QApplication::installTranslator(&qtTranslations);
 
     QString error;
     const std::optional<HostOptions> options
@@ -103,6 +112,7 @@ int main(int argc, char **argv)
                         .arg(module.fileName(), QLatin1String(entryName)));
     }
 
+    const TerminationSignals terminationSignals;
     // Statements of the module commit as they run; its all-or-nothing work
     // brackets itself with scopes on this transaction. Whatever is still
     // open when the register closes is committed here.
