@@ -133,6 +133,6 @@ TEST_F(Module, AnOrderAddedFromTheRegisterIsSavedAndSelected)
     EXPECT_EQ(runZlecPrzychodzace(1, &db.connection(), &transaction), 1);
     EXPECT_TRUE(scriptedModalRunner().allRun());
     EXPECT_EQ(db.count(QStringLiteral("ZLECENIA_PRZYCH")), orders + 1);
-    EXPECT_EQ(selected,
-              db.scalar(QStringLiteral("SELECT MAX(ID_ZLECENIA_PRZYCH) FROM ZLECENIA_PRZYCH")).toInt());
+    const QString newest = QStringLiteral("SELECT MAX(ID_ZLECENIA_PRZYCH) FROM ZLECENIA_PRZYCH");
+    EXPECT_EQ(selected, db.scalar(newest).toInt());
 }
