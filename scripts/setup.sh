@@ -6,7 +6,7 @@ set -euo pipefail
 
 packages=(
   g++ cmake ninja-build make pkg-config
-  qt6-base-dev libqt6sql6-ibase libgl-dev qt6-translations-l10n
+  qt6-base-dev qt6-qpa-plugins libqt6sql6-ibase libgl-dev qt6-translations-l10n
   firebird3.0-server-core firebird3.0-utils firebird-dev firebird3.0-server
   googletest libgtest-dev libbenchmark-dev
   poppler-utils
@@ -26,4 +26,4 @@ sudo_cmd=()
 [ "$(id -u)" -eq 0 ] || sudo_cmd=(sudo)
 export DEBIAN_FRONTEND=noninteractive
 "${sudo_cmd[@]}" apt-get update -qq
-"${sudo_cmd[@]}" apt-get install -y -qq --no-install-recommends "${missing[@]}"
+"${sudo_cmd[@]}" apt-get install -y -qq "${missing[@]}"
