@@ -15,9 +15,7 @@ namespace {
 
 TBitBtn *menuButton(const QString &caption, const QString &name, QWidget *parent)
 {
-    auto *button = new TBitBtn(caption, parent);
-    button->setObjectName(name);
-    button->setAutoDefault(false);
+    TBitBtn *button = TBitBtn::create(caption, name, parent);
     button->setMinimumHeight(40);
     return button;
 }

@@ -28,15 +28,6 @@ int &sharedSearchColumn()
 
 constexpr QSize ImageSize(20, 20);
 
-TBitBtn *frameButton(const QString &caption, const QString &name, QWidget *parent)
-{
-    auto *button = new TBitBtn(caption, parent);
-    button->setObjectName(name);
-    // Enter belongs to the search box and the list, never to a button.
-    button->setAutoDefault(false);
-    return button;
-}
-
 QPushButton *plainButton(const QString &caption, const QString &name, QWidget *parent)
 {
     auto *button = new QPushButton(caption, parent);
@@ -84,12 +75,12 @@ void TframeListView::buildLayout()
     btnOpcje = plainButton(QStringLiteral("Opcje"), QStringLiteral("btnOpcje"), top);
     btnUnBold = plainButton(QStringLiteral("Pogrubienie"), QStringLiteral("btnUnBold"), top);
     btnUnBold->hide();
-    BitBtn1 = frameButton(QStringLiteral("Sumuj kolumnę"), QStringLiteral("BitBtn1"), top);
-    BitBtn2 = frameButton(QStringLiteral("Export do pliku"), QStringLiteral("BitBtn2"), top);
-    BitBtn5 = frameButton(QStringLiteral("&Dodaj"), QStringLiteral("BitBtn5"), top);
-    BitBtn4 = frameButton(QStringLiteral("&Popraw"), QStringLiteral("BitBtn4"), top);
-    BitBtn6 = frameButton(QStringLiteral("&Usuń"), QStringLiteral("BitBtn6"), top);
-    BitBtn7 = frameButton(QStringLiteral("&Odśwież"), QStringLiteral("BitBtn7"), top);
+    BitBtn1 = TBitBtn::create(QStringLiteral("Sumuj kolumnę"), QStringLiteral("BitBtn1"), top);
+    BitBtn2 = TBitBtn::create(QStringLiteral("Export do pliku"), QStringLiteral("BitBtn2"), top);
+    BitBtn5 = TBitBtn::create(QStringLiteral("&Dodaj"), QStringLiteral("BitBtn5"), top);
+    BitBtn4 = TBitBtn::create(QStringLiteral("&Popraw"), QStringLiteral("BitBtn4"), top);
+    BitBtn6 = TBitBtn::create(QStringLiteral("&Usuń"), QStringLiteral("BitBtn6"), top);
+    BitBtn7 = TBitBtn::create(QStringLiteral("&Odśwież"), QStringLiteral("BitBtn7"), top);
     auto *topLayout = new QHBoxLayout(top);
     topLayout->setContentsMargins(6, 4, 6, 4);
     topLayout->addWidget(Label1);
@@ -122,7 +113,7 @@ void TframeListView::buildLayout()
     cbSearchOnKey->setObjectName(QStringLiteral("cbSearchOnKey"));
     cbSearchOnKey->setChecked(true);
     BitBtn3
-        = frameButton(QStringLiteral("Informacje systemowe"), QStringLiteral("BitBtn3"), expanded);
+        = TBitBtn::create(QStringLiteral("Informacje systemowe"), QStringLiteral("BitBtn3"), expanded);
     auto *checks = new QVBoxLayout;
     checks->setSpacing(0);
     checks->addWidget(cbCaseSensitive);

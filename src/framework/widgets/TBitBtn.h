@@ -11,6 +11,10 @@ class TBitBtn : public QPushButton
 public:
     explicit TBitBtn(const QString &caption, QWidget *parent = nullptr);
 
+    // A named button that never takes Enter as the default button: in the
+    // forms Enter moves between fields, and in lists it belongs to the list.
+    static TBitBtn *create(const QString &caption, const QString &name, QWidget *parent);
+
     // 0: the button does not close its dialog.
     int modalResult() const { return m_modalResult; }
     void setModalResult(int result) { m_modalResult = result; }

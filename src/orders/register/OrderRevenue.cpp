@@ -1,11 +1,11 @@
 #include "OrderRevenue.h"
 
-#include "Money.h"
+#include "OrderRates.h"
 
 double orderRevenue(const OrderRevenueFigures &f)
 {
     if (f.wholeAmount >= 1)
         return f.wholeAmount;
-    return Money::RoundTo2(f.loadedKm * f.loadedKmRate) + Money::RoundTo2(f.emptyKm * f.emptyKmRate)
-        + Money::RoundTo2(f.hours * f.hourRate) + Money::RoundTo2(f.pallets * f.palletRate);
+    return OrderRates::priced({f.loadedKm, f.emptyKm, f.hours, f.pallets},
+                              {f.loadedKmRate, f.emptyKmRate, f.hourRate, f.palletRate});
 }

@@ -24,14 +24,6 @@ namespace {
 constexpr int MinimumWidth = 712;
 constexpr QSize InitialSize(963, 649);
 
-TBitBtn *button(const QString &caption, const QString &name, QWidget *parent)
-{
-    auto *created = new TBitBtn(caption, parent);
-    created->setObjectName(name);
-    created->setAutoDefault(false);
-    return created;
-}
-
 // A button that stands for an action: pressing it runs the action and it is
 // enabled exactly when the action is.
 void standFor(QPushButton *control, QAction *action)
@@ -151,14 +143,14 @@ void TfrmZlecPrzychodzace::buildFilters(QWidget *parent)
 
 void TfrmZlecPrzychodzace::buildButtons(QWidget *parent)
 {
-    btnPowiel = button(QStringLiteral("Powiel"), QStringLiteral("btnPowiel"), parent);
-    BitBtn5 = button(QStringLiteral("Wstaw z wzorca"), QStringLiteral("BitBtn5"), parent);
+    btnPowiel = TBitBtn::create(QStringLiteral("Powiel"), QStringLiteral("btnPowiel"), parent);
+    BitBtn5 = TBitBtn::create(QStringLiteral("Wstaw z wzorca"), QStringLiteral("BitBtn5"), parent);
     BitBtn5->hide();
-    BitBtn12 = button(QStringLiteral("Towary"), QStringLiteral("BitBtn12"), parent);
-    BitBtn13 = button(QStringLiteral("M.załadunku"), QStringLiteral("BitBtn13"), parent);
-    BitBtn4 = button(QStringLiteral("M.Rozladunku"), QStringLiteral("BitBtn4"), parent);
-    BitBtn6 = button(QStringLiteral("&Kilometry"), QStringLiteral("BitBtn6"), parent);
-    btnCenniki = button(QStringLiteral("-> *.CSV"), QStringLiteral("btnCenniki"), parent);
+    BitBtn12 = TBitBtn::create(QStringLiteral("Towary"), QStringLiteral("BitBtn12"), parent);
+    BitBtn13 = TBitBtn::create(QStringLiteral("M.załadunku"), QStringLiteral("BitBtn13"), parent);
+    BitBtn4 = TBitBtn::create(QStringLiteral("M.Rozladunku"), QStringLiteral("BitBtn4"), parent);
+    BitBtn6 = TBitBtn::create(QStringLiteral("&Kilometry"), QStringLiteral("BitBtn6"), parent);
+    btnCenniki = TBitBtn::create(QStringLiteral("-> *.CSV"), QStringLiteral("btnCenniki"), parent);
 
     auto *layout = new QHBoxLayout(parent);
     layout->setContentsMargins(6, 4, 6, 4);
