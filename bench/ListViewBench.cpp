@@ -105,7 +105,7 @@ public:
 
 void benchListView(BenchTimer &timer, int rowCount)
 {
-    auto previousMessages = MessageService::install(std::make_unique<SilentMessages>());
+    auto previousMessages = MessageServices::install(std::make_unique<SilentMessages>());
     QTemporaryDir dir;
     const QString csv = dir.filePath(QStringLiteral("lista.csv"));
     auto previousPrompts = FilePromptService::install(std::make_unique<PathPrompt>(csv));
@@ -151,5 +151,5 @@ void benchListView(BenchTimer &timer, int rowCount)
 
     form.reset();
     FilePromptService::install(std::move(previousPrompts));
-    MessageService::install(std::move(previousMessages));
+    MessageServices::install(std::move(previousMessages));
 }

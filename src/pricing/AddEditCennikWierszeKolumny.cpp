@@ -1,8 +1,9 @@
 #include "AddEditCennikWierszeKolumny.h"
 
-#include "DatabaseGuard.h"
 #include "LimitedSpinEdits.h"
+#include "MessageService.h"
 #include "PriceRanges.h"
+#include "ReportFailures.h"
 #include "SessionContext.h"
 #include "TBitBtn.h"
 
@@ -53,7 +54,7 @@ void TfrmAddEditCennikWierszeKolumny::btnOkClick()
     if (!database)
         return;
     bool taken = false;
-    if (!runReported(QStringLiteral("Nie można sprawdzić przedziału"), [&] {
+    if (!reportFailures(QStringLiteral("Nie można sprawdzić przedziału"), [&] {
             taken = PriceRanges::exists(*database, m_duplicateTest, value());
         }))
         return;

@@ -1,7 +1,7 @@
 #include "AddEditMiasta.h"
 
-#include "DatabaseGuard.h"
 #include "LimitedSpinEdits.h"
+#include "ReportFailures.h"
 #include "Routes.h"
 #include "SessionContext.h"
 #include "TBitBtn.h"
@@ -64,7 +64,7 @@ void TfrmAddEditMiasta::FormShow()
     if (m_loaded || !database)
         return;
     m_loaded = true;
-    runReported(QStringLiteral("Nie można odczytać odległości"), [&] {
+    reportFailures(QStringLiteral("Nie można odczytać odległości"), [&] {
         const RouteRow route = Routes::load(*database, m_routeKey);
         edMiastoOd->setText(route.fromName);
         edMiastoDo->setText(route.toName);
@@ -77,7 +77,7 @@ void TfrmAddEditMiasta::btnOkClick()
     Connection *database = session().Database;
     if (!database)
         return;
-    if (runReported(QStringLiteral("Nie można zapisać odległości"),
+    if (reportFailures(QStringLiteral("Nie można zapisać odległości"),
                     [&] { Routes::setDistance(*database, m_routeKey, edOdleglosc->value()); }))
         done(mrOk);
 }

@@ -3,8 +3,9 @@
 #include "CennikWierszeKolumny.h"
 #include "Cenniki.h"
 #include "CennikiKontrahenci.h"
-#include "DatabaseGuard.h"
+#include "MessageService.h"
 #include "PriceRanges.h"
+#include "ReportFailures.h"
 #include "SessionContext.h"
 #include "TBitBtn.h"
 
@@ -55,7 +56,7 @@ void TfrmCennikMenu::BitBtn1Click()
     if (!database)
         return;
     int ranges = 0;
-    if (!runReported(QStringLiteral("Nie można policzyć przedziałów cennika"),
+    if (!reportFailures(QStringLiteral("Nie można policzyć przedziałów cennika"),
                      [&] { ranges = PriceRanges::totalCount(*database); }))
         return;
     // One row and one column pass, and so do two rows and no column.

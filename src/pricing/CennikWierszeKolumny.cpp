@@ -2,8 +2,9 @@
 
 #include "AddEditCennikWierszeKolumny.h"
 #include "AddEditGrupy.h"
-#include "DatabaseGuard.h"
+#include "MessageService.h"
 #include "PriceGroups.h"
+#include "ReportFailures.h"
 #include "SessionContext.h"
 #include "TBitBtn.h"
 #include "TListView.h"
@@ -35,7 +36,7 @@ bool mayDelete(const QString &failure, CountUses &&countUses, const QString &ref
                const QString &question)
 {
     int used = 0;
-    if (!runReported(failure, [&] { used = countUses(); }))
+    if (!reportFailures(failure, [&] { used = countUses(); }))
         return false;
     if (used >= 1) {
         Messages::inform(DeletionCaption, refusal);
@@ -152,7 +153,7 @@ void TfrmCennikWierszeKolumny::fillRanges(RangeAxis axis)
     list->beginUpdate();
     list->clear();
     if (Connection *db = database()) {
-        runReported(QStringLiteral("Nie można odczytać przedziałów"), [&] {
+        reportFailures(QStringLiteral("Nie można odczytać przedziałów"), [&] {
             for (const PriceRange &range :
                  PriceRanges::list(*db, axis, PriceRanges::editorListing(axis)))
                 list->addItem(QString::number(range.from), {QString::number(range.to)}, range.key);
@@ -166,7 +167,7 @@ void TfrmCennikWierszeKolumny::fillGroups()
     lvGrupy->beginUpdate();
     lvGrupy->clear();
     if (Connection *db = database()) {
-        runReported(QStringLiteral("Nie można odczytać grup cenników"), [&] {
+        reportFailures(QStringLiteral("Nie można odczytać grup cenników"), [&] {
             for (const PriceGroup &group : PriceGroups::list(*db))
                 lvGrupy->addItem(group.name, {group.blocked ? QStringLiteral("T") : QString()},
                                  group.key);
@@ -191,7 +192,7 @@ void TfrmCennikWierszeKolumny::addRange(RangeAxis axis)
     if (dialog->showModal() != mrOk)
         return;
     int key = 0;
-    runReported(QStringLiteral("Nie można dodać przedziału"),
+    reportFailures(QStringLiteral("Nie można dodać przedziału"),
                 [&] { key = PriceRanges::add(*db, axis, dialog->value()); });
     fillRanges(axis);
     showKey(rangeList(axis), key);
@@ -205,14 +206,14 @@ void TfrmCennikWierszeKolumny::editRange(RangeAxis axis)
     if (!db || key == 0)
         return;
     int upperBound = 0;
-    if (!runReported(QStringLiteral("Nie można odczytać przedziału"),
+    if (!reportFailures(QStringLiteral("Nie można odczytać przedziału"),
                      [&] { upperBound = PriceRanges::load(*db, axis, key).to; }))
         return;
     auto dialog = TfrmRODefault::create<TfrmAddEditCennikWierszeKolumny>(
         this, upperBound, PriceRanges::duplicateTest(axis, key), PriceRanges::unit(axis));
     if (dialog->showModal() != mrOk)
         return;
-    runReported(QStringLiteral("Nie można poprawić przedziału"),
+    reportFailures(QStringLiteral("Nie można poprawić przedziału"),
                 [&] { PriceRanges::change(*db, axis, key, dialog->value()); });
     fillRanges(axis);
     showKey(list, key);
@@ -230,7 +231,7 @@ void TfrmCennikWierszeKolumny::deleteRange(RangeAxis axis)
                                   "cennikach! "),
                    QStringLiteral("Czy na pewno usunąć pozycję?")))
         return;
-    runReported(QStringLiteral("Nie można usunąć przedziału"),
+    reportFailures(QStringLiteral("Nie można usunąć przedziału"),
                 [&] { PriceRanges::remove(*db, axis, key); });
     fillRanges(axis);
 }

@@ -1,11 +1,11 @@
 #include "Cenniki.h"
 
 #include "AddEditCenniki.h"
-#include "DatabaseGuard.h"
 #include "Format.h"
 #include "PriceCells.h"
 #include "PriceListCombo.h"
 #include "PriceRanges.h"
+#include "ReportFailures.h"
 #include "SessionContext.h"
 #include "TBitBtn.h"
 
@@ -101,7 +101,7 @@ void TfrmCenniki::buildGrid()
     std::vector<PriceRange> rows;
     std::vector<PriceRange> columns;
     if (database) {
-        runReported(QStringLiteral("Nie można odczytać przedziałów cennika"), [&] {
+        reportFailures(QStringLiteral("Nie można odczytać przedziałów cennika"), [&] {
             rows = PriceRanges::list(*database, RangeAxis::Kilometres,
                                      PriceRanges::gridListing(RangeAxis::Kilometres));
             columns = PriceRanges::list(*database, RangeAxis::Kilograms,
@@ -159,7 +159,7 @@ void TfrmCenniki::FillCells()
         rowOfKey.emplace(rangeKey(0, r), r - 1);
     for (int c = 1; c < ColCount(); ++c)
         columnOfKey.emplace(rangeKey(c, 0), c - 1);
-    runReported(QStringLiteral("Nie można odczytać cennika"), [&] {
+    reportFailures(QStringLiteral("Nie można odczytać cennika"), [&] {
         for (const PriceCell &cell : PriceCells::ofGroup(*database, selectedPriceList(cbCennik))) {
             const auto row = rowOfKey.find(cell.kilometreRange);
             const auto column = columnOfKey.find(cell.kilogramRange);
@@ -186,14 +186,14 @@ void TfrmCenniki::sgCennikDblClick()
     const int columnKey = rangeKey(c, 0);
     const int rowKey = rangeKey(0, r);
     double amount = 0.0;
-    if (!runReported(QStringLiteral("Nie można odczytać stawki"),
+    if (!reportFailures(QStringLiteral("Nie można odczytać stawki"),
                      [&] { amount = PriceCells::amountAt(*database, group, rowKey, columnKey); }))
         return;
     auto dialog
         = TfrmRODefault::create<TfrmAddEditCenniki>(this, Cells(c, 0), Cells(0, r), amount);
     if (dialog->showModal() != mrOk)
         return;
-    runReported(QStringLiteral("Nie można zapisać stawki"), [&] {
+    reportFailures(QStringLiteral("Nie można zapisać stawki"), [&] {
         PriceCells::store(*database, group, rowKey, columnKey, dialog->amount());
     });
     FillCells();

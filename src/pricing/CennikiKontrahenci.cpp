@@ -1,8 +1,8 @@
 #include "CennikiKontrahenci.h"
 
-#include "DatabaseGuard.h"
 #include "LVFrame.h"
 #include "PriceListCombo.h"
+#include "ReportFailures.h"
 #include "SessionContext.h"
 #include "Statement.h"
 #include "TBitBtn.h"
@@ -65,7 +65,7 @@ void TfrmCennikiKontrahenci::LoadLVData()
     list->beginUpdate();
     list->clear();
     if (Connection *database = session().Database) {
-        runReported(QStringLiteral("Nie można odczytać kontrahentów"), [&] {
+        reportFailures(QStringLiteral("Nie można odczytać kontrahentów"), [&] {
             Statement st(*database);
             st.setUniDirectional(true);
             st.add(clientsOf(selectedPriceList(cbCennik)));

@@ -2,9 +2,10 @@
 
 #include "AddEditMiasta.h"
 #include "Configuration.h"
-#include "DatabaseGuard.h"
 #include "Format.h"
 #include "LVFrame.h"
+#include "MessageService.h"
+#include "ReportFailures.h"
 #include "Routes.h"
 #include "SessionContext.h"
 #include "TBitBtn.h"
@@ -147,7 +148,7 @@ void TfrmMiasta::LoadLVData()
     Connection *database = session().Database;
     const int city = selectedCity();
     if (database && city != 0) {
-        runReported(QStringLiteral("Nie można odczytać odległości"), [&] {
+        reportFailures(QStringLiteral("Nie można odczytać odległości"), [&] {
             for (const RouteRow &route : Routes::startingIn(*database, city)) {
                 QStringList subItems;
                 if (!route.toName.isEmpty())
@@ -186,7 +187,7 @@ void TfrmMiasta::deleteRoute()
         return;
     const int routeKey = list->key(row);
     const TDaneFirmy firma;
-    runReported(QStringLiteral("Nie można usunąć odległości"), [&] {
+    reportFailures(QStringLiteral("Nie można usunąć odległości"), [&] {
         const int formId = firma.GetFormID(this);
         Routes::remove(*database, routeKey);
         if (firma.GetConfigBool(QStringLiteral("SYSTEMMONITORDELETE")))

@@ -1,7 +1,7 @@
 #include "PriceListCombo.h"
 
-#include "DatabaseGuard.h"
 #include "PriceGroups.h"
+#include "ReportFailures.h"
 
 #include <QCollator>
 #include <QComboBox>
@@ -16,7 +16,7 @@ void fillPriceListCombo(QComboBox *combo, Connection *connection)
     combo->addItem(PriceGroups::MainPriceList, 0);
     std::vector<PriceGroup> groups;
     if (connection) {
-        runReported(QStringLiteral("Nie można odczytać grup cenników"),
+        reportFailures(QStringLiteral("Nie można odczytać grup cenników"),
                     [&] { groups = PriceGroups::unblocked(*connection); });
     }
     QCollator collator{QLocale(QLocale::Polish, QLocale::Poland)};

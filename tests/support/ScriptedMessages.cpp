@@ -21,21 +21,9 @@ void ScriptedMessages::showMessage(const QString &text)
     ask(QString(), text, Icon::None, Ok, Ok);
 }
 
-ScopedScriptedMessages::ScopedScriptedMessages()
-{
-    auto messages = std::make_unique<ScriptedMessages>();
-    m_messages = messages.get();
-    m_previous = MessageService::install(std::move(messages));
-}
-
-ScopedScriptedMessages::~ScopedScriptedMessages()
-{
-    MessageService::install(std::move(m_previous));
-}
-
 ScriptedMessages &scriptedMessages()
 {
-    auto *messages = dynamic_cast<ScriptedMessages *>(&MessageService::instance());
+    auto *messages = dynamic_cast<ScriptedMessages *>(&MessageServices::instance());
     if (!messages)
         throw std::logic_error("no scripted message service installed");
     return *messages;

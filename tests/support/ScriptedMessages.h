@@ -40,23 +40,5 @@ private:
     std::deque<Button> m_answers;
 };
 
-// Installs a ScriptedMessages for the lifetime of the object and puts the
-// previous service back afterwards.
-class ScopedScriptedMessages
-{
-public:
-    ScopedScriptedMessages();
-    ~ScopedScriptedMessages();
-    ScopedScriptedMessages(const ScopedScriptedMessages &) = delete;
-    ScopedScriptedMessages &operator=(const ScopedScriptedMessages &) = delete;
-
-    ScriptedMessages *operator->() const { return m_messages; }
-    ScriptedMessages &operator*() const { return *m_messages; }
-
-private:
-    ScriptedMessages *m_messages;
-    std::unique_ptr<MessageService> m_previous;
-};
-
 // The scripted service every test runs with (installed by the test main).
 ScriptedMessages &scriptedMessages();

@@ -15,10 +15,10 @@ class ScriptedMessagesListener : public testing::EmptyTestEventListener
 {
     void OnTestStart(const testing::TestInfo &) override
     {
-        m_messages = std::make_unique<ScopedScriptedMessages>();
+        m_messages = std::make_unique<MessageServices::Scoped<ScriptedMessages>>();
     }
     void OnTestEnd(const testing::TestInfo &) override { m_messages.reset(); }
-    std::unique_ptr<ScopedScriptedMessages> m_messages;
+    std::unique_ptr<MessageServices::Scoped<ScriptedMessages>> m_messages;
 };
 
 } // namespace

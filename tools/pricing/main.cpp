@@ -10,6 +10,7 @@
 #include "DbError.h"
 #include "DemoDatabase.h"
 #include "Miasta.h"
+#include "QtMessageService.h"
 #include "SessionContext.h"
 #include "StawkiTaryfowe.h"
 #include "Transaction.h"
@@ -84,6 +85,7 @@ int main(int argc, char **argv)
         QTextStream(stderr) << error.message() << '\n';
         return 1;
     }
+    MessageServices::setProgramService(std::make_unique<QtMessageService>());
     Transaction transaction(connection);
     setSession(userId, &connection, &transaction);
     const int result = opener->second();

@@ -89,7 +89,7 @@ void TfrmRODefault::checkAccelerators()
         if (letter.isNull())
             continue;
         if (used.contains(letter)) {
-            MessageService::instance().showMessage(QStringLiteral("Zdublowany shortcut dla litery ")
+            MessageServices::instance().showMessage(QStringLiteral("Zdublowany shortcut dla litery ")
                                                    + u'"' + letter + u'"');
         }
         used.insert(letter);
@@ -98,7 +98,7 @@ void TfrmRODefault::checkAccelerators()
 
 void TfrmRODefault::warnAuthor(const QString &text)
 {
-    MessageService::instance().ask(objectName(), text, MessageService::Icon::Warning,
+    MessageServices::instance().ask(objectName(), text, MessageService::Icon::Warning,
                                    MessageService::Ok, MessageService::Ok);
 }
 

@@ -37,7 +37,7 @@ void TframeListView::Refresh()
 
 void TframeListView::sumColumn()
 {
-    MessageService &messages = MessageService::instance();
+    MessageService &messages = MessageServices::instance();
     if (lvMain->itemCount() == 0) {
         messages.showMessage(QStringLiteral("Brak danych!"));
         return;
@@ -54,7 +54,7 @@ void TframeListView::sumColumn()
 
 void TframeListView::exportToFile()
 {
-    MessageService &messages = MessageService::instance();
+    MessageService &messages = MessageServices::instance();
     if (lvMain->columnCount() == 0) {
         messages.showMessage(QStringLiteral("Brak kolumn!"));
         return;
@@ -82,7 +82,7 @@ void TframeListView::exportToFile()
 void TframeListView::showSystemInformation()
 {
     const QString text = SystemInfo::text(QString::fromLatin1(window()->metaObject()->className()));
-    const MessageService::Button answer = MessageService::instance().ask(
+    const MessageService::Button answer = MessageServices::instance().ask(
         QStringLiteral("Informacja systemowa."), text, MessageService::Icon::Information,
         MessageService::Yes | MessageService::No, MessageService::Yes);
     if (answer == MessageService::Yes)

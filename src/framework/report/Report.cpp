@@ -1,8 +1,8 @@
 #include "Report.h"
 
 #include "MessageService.h"
+#include "QtReportOutput.h"
 #include "ReportError.h"
-#include "ReportOutput.h"
 #include "ReportPainter.h"
 #include "ReportPreRenderer.h"
 #include "StatementCursor.h"
@@ -105,12 +105,12 @@ bool Report::prepareShowingErrors()
 
 bool Report::preview()
 {
-    return ReportOutput::instance().preview(*this);
+    return ReportOutputs::instance().preview(*this);
 }
 
 bool Report::print()
 {
-    return ReportOutput::instance().print(*this);
+    return ReportOutputs::instance().print(*this);
 }
 
 bool Report::exportPdf(const QString &path)

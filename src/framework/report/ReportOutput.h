@@ -1,7 +1,8 @@
 #pragma once
 
-#include <memory>
+#include "Seam.h"
 
+class QtReportOutput;
 class Report;
 
 // Where a report goes when it is previewed or printed: windows and the
@@ -16,11 +17,7 @@ public:
     virtual bool preview(Report &report) = 0;
     // Lays the report out and prints it straight away.
     virtual bool print(Report &report) = 0;
-
-    // The output in use; preview windows and the printer until another is
-    // installed.
-    static ReportOutput &instance();
-    // Installs an output and returns the one it replaces (null for the
-    // built-in one), so a test can put the previous one back.
-    static std::unique_ptr<ReportOutput> install(std::unique_ptr<ReportOutput> output);
 };
+
+// Preview windows and the printer until a test installs another output.
+using ReportOutputs = Seam<ReportOutput, QtReportOutput>;

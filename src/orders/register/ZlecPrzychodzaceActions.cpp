@@ -5,8 +5,8 @@
 #include "DbError.h"
 #include "FilePrompts.h"
 #include "LVFrame.h"
-#include "Miasta.h"
 #include "MessageService.h"
+#include "Miasta.h"
 #include "Privileges.h"
 #include "RegisterExport.h"
 #include "SessionContext.h"
@@ -125,7 +125,7 @@ void TfrmZlecPrzychodzace::btnCennikiClick()
     if (path.isEmpty())
         return;
     if (!RegisterExport::write(frameListView1->lvMain->items(), path))
-        MessageService::instance().showMessage(QStringLiteral("Błąd otwarcia pliku (") + path
+        MessageServices::instance().showMessage(QStringLiteral("Błąd otwarcia pliku (") + path
                                                + u')');
 }
 

@@ -48,21 +48,6 @@ QString pdfInfo(const QString &path, const QString &key)
     return QString();
 }
 
-class ScopedReportOutput
-{
-public:
-    explicit ScopedReportOutput(std::unique_ptr<ReportOutput> output)
-        : m_output(output.get()), m_previous(ReportOutput::install(std::move(output)))
-    {
-    }
-    ~ScopedReportOutput() { ReportOutput::install(std::move(m_previous)); }
-    ReportOutput *get() const { return m_output; }
-
-private:
-    ReportOutput *m_output;
-    std::unique_ptr<ReportOutput> m_previous;
-};
-
 const QString pangram = QStringLiteral("Zażółć gęślą jaźń, ĄĘŁŃÓŚŹŻ");
 
 } // namespace
@@ -116,33 +101,31 @@ TEST(ReportOutput, UnwritablePathIsReportedAndNothingIsWritten)
 TEST(ReportOutput, PreviewAndPrintGoThroughTheInstalledOutput)
 {
     QTemporaryDir dir;
-    ScopedReportOutput scoped(std::make_unique<PdfFileReportOutput>(dir.path()));
-    auto &files = static_cast<PdfFileReportOutput &>(*scoped.get());
+    const ReportOutputs::Scoped<PdfFileReportOutput> files(dir.path());
     CarrierInvoicesReport sample(sampleInvoices(3, 30));
     ASSERT_TRUE(sample.report().preview());
     ASSERT_TRUE(sample.report().print());
 
-    ASSERT_EQ(files.deliveries().size(), 2u);
-    const PdfFileReportOutput::Delivery &preview = files.deliveries()[0];
+    ASSERT_EQ(files->deliveries().size(), 2u);
+    const PdfFileReportOutput::Delivery &preview = files->deliveries()[0];
     EXPECT_EQ(preview.kind, PdfFileReportOutput::Kind::Preview);
     EXPECT_EQ(preview.title, QStringLiteral("Faktury przewoźników"));
     EXPECT_EQ(preview.pageCount, 3);
     EXPECT_EQ(pdfInfo(preview.path, QStringLiteral("Pages")), QStringLiteral("3"));
-    EXPECT_EQ(files.deliveries()[1].kind, PdfFileReportOutput::Kind::Print);
-    EXPECT_NE(files.deliveries()[1].path, preview.path);
+    EXPECT_EQ(files->deliveries()[1].kind, PdfFileReportOutput::Kind::Print);
+    EXPECT_NE(files->deliveries()[1].path, preview.path);
 }
 
 TEST(ReportOutput, ReportWithoutPagesWritesNoFile)
 {
     QTemporaryDir dir;
-    ScopedReportOutput scoped(std::make_unique<PdfFileReportOutput>(dir.path()));
-    auto &files = static_cast<PdfFileReportOutput &>(*scoped.get());
+    const ReportOutputs::Scoped<PdfFileReportOutput> files(dir.path());
     CarrierInvoicesReport sample({});
     sample.report().setPrintIfEmpty(false);
     ASSERT_TRUE(sample.report().preview());
-    ASSERT_EQ(files.deliveries().size(), 1u);
-    EXPECT_EQ(files.deliveries()[0].pageCount, 0);
-    EXPECT_TRUE(files.deliveries()[0].path.isEmpty());
+    ASSERT_EQ(files->deliveries().size(), 1u);
+    EXPECT_EQ(files->deliveries()[0].pageCount, 0);
+    EXPECT_TRUE(files->deliveries()[0].path.isEmpty());
     EXPECT_TRUE(QDir(dir.path()).isEmpty());
 }
 

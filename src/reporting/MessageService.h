@@ -1,9 +1,9 @@
 #pragma once
 
+#include "Seam.h"
+
 #include <QFlags>
 #include <QString>
-
-#include <memory>
 
 // Every message box and plain message of the module goes through here, so
 // that tests can answer them from a script and fail on unexpected ones.
@@ -31,15 +31,22 @@ public:
                        Buttons buttons, Button defaultButton) = 0;
     // A plain message with the application's title and an OK button.
     virtual void showMessage(const QString &text) = 0;
-
-    // The service in use; the Qt message boxes until another is installed.
-    static MessageService &instance();
-    // Installs a service and returns the one it replaces (null for the
-    // built-in one), so a test can put the previous one back.
-    static std::unique_ptr<MessageService> install(std::unique_ptr<MessageService> service);
 };
 
 Q_DECLARE_OPERATORS_FOR_FLAGS(MessageService::Buttons)
+
+// What a program without a screen (haulix-admin, the logic tests) does
+// with a box: writes it to the standard error and takes its default
+// button. Programs with a screen choose QtMessageService at start.
+class ConsoleMessageService final : public MessageService
+{
+public:
+    Button ask(const QString &caption, const QString &text, Icon icon, Buttons buttons,
+               Button defaultButton) override;
+    void showMessage(const QString &text) override;
+};
+
+using MessageServices = Seam<MessageService, ConsoleMessageService>;
 
 namespace Messages {
 
