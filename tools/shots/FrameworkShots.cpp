@@ -1,9 +1,7 @@
-#include "AdvancedEdit.h"
 #include "DefaultWindow.h"
 #include "Format.h"
 #include "LVFrame.h"
 #include "ShotBook.h"
-#include "ShotDatabase.h"
 #include "Shots.h"
 #include "WaitPlease.h"
 
@@ -111,9 +109,5 @@ void addFrameworkShots(ShotBook &book)
     book.add(QStringLiteral("frameListView"), [](ShotContext &) { return frameWithRows(false); });
     book.add(QStringLiteral("frameListView-opcje"),
              [](ShotContext &) { return frameWithRows(true); });
-    book.add(
-        QStringLiteral("frmAdvancedEdit"), [](ShotContext &context) -> std::unique_ptr<QWidget> {
-            return TfrmRODefault::create<TfrmAdvancedEdit>(nullptr, context.database().orderKey());
-        });
     book.add(QStringLiteral("frmWaitPlease"), [](ShotContext &) { return waitWindow(); });
 }

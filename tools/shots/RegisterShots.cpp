@@ -4,7 +4,9 @@
 #include "Schema.h"
 #include "SessionContext.h"
 #include "ShotBook.h"
+#include "ShotDatabase.h"
 #include "Shots.h"
+#include "TfrmAdvancedEdit.h"
 #include "Transaction.h"
 #include "ZlecPrzychodzace.h"
 
@@ -56,4 +58,8 @@ void addRegisterShots(ShotBook &book)
 {
     book.add(QStringLiteral("frmZlecPrzychodzace"),
              [](ShotContext &) { return incomingOrders(); });
+    book.add(
+        QStringLiteral("frmAdvancedEdit"), [](ShotContext &context) -> std::unique_ptr<QWidget> {
+            return TfrmRODefault::create<TfrmAdvancedEdit>(nullptr, context.database().orderKey());
+        });
 }

@@ -1,7 +1,6 @@
 // What the register's actions do.
 #include "ZlecPrzychodzace.h"
 
-#include "AdvancedEdit.h"
 #include "DbError.h"
 #include "FilePrompts.h"
 #include "LVFrame.h"
@@ -12,6 +11,7 @@
 #include "SessionContext.h"
 #include "Statement.h"
 #include "TZlecenia_przychObj.h"
+#include "TfrmAdvancedEdit.h"
 #include "Transaction.h"
 
 #include <QDir>

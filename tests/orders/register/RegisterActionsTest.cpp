@@ -1,4 +1,3 @@
-#include "AdvancedEdit.h"
 #include "LVFrame.h"
 #include "Miasta.h"
 #include "OrderListColumns.h"
@@ -10,6 +9,7 @@
 #include "TMiejsca_zlecObj.h"
 #include "TTowaryObj.h"
 #include "TfrmAddEditZlecenia_Przych.h"
+#include "TfrmAdvancedEdit.h"
 
 #include <QAction>
 #include <QComboBox>

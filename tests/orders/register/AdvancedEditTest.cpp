@@ -1,9 +1,9 @@
-#include "AdvancedEdit.h"
 #include "ScriptedMessages.h"
 #include "ScriptedModalRunner.h"
 #include "SessionContext.h"
 #include "TBitBtn.h"
 #include "TestDatabase.h"
+#include "TfrmAdvancedEdit.h"
 
 #include <QComboBox>
 #include <QLabel>

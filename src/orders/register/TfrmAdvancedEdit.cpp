@@ -1,4 +1,4 @@
-#include "AdvancedEdit.h"
+#include "TfrmAdvancedEdit.h"
 
 #include "SessionContext.h"
 #include "TBitBtn.h"
