@@ -1,11 +1,11 @@
 #include "AddEditCennikWierszeKolumny.h"
 
-#include "LimitedSpinEdits.h"
 #include "MessageService.h"
 #include "PriceRanges.h"
 #include "ReportFailures.h"
 #include "SessionContext.h"
 #include "TBitBtn.h"
+#include "TLimitedSpinEdit.h"
 
 #include <QGridLayout>
 #include <QLabel>

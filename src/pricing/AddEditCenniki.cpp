@@ -1,6 +1,6 @@
 #include "AddEditCenniki.h"
 
-#include "LimitedSpinEdits.h"
+#include "TLimitedFloatEdit.h"
 
 #include <QGridLayout>
 #include <QLabel>

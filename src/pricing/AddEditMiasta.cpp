@@ -1,10 +1,10 @@
 #include "AddEditMiasta.h"
 
-#include "LimitedSpinEdits.h"
 #include "ReportFailures.h"
 #include "Routes.h"
 #include "SessionContext.h"
 #include "TBitBtn.h"
+#include "TLimitedSpinEdit.h"
 
 #include <QGridLayout>
 #include <QLabel>

@@ -1,8 +1,9 @@
 #include "AddEditStawkiTaryfowe.h"
 
-#include "LimitedSpinEdits.h"
 #include "SessionContext.h"
 #include "TBitBtn.h"
+#include "TLimitedFloatEdit.h"
+#include "TLimitedSpinEdit.h"
 #include "TTaryfyprzewoznikaObj.h"
 #include "TariffKinds.h"
 

@@ -3,6 +3,7 @@
 #include "AddEditCennikWierszeKolumny.h"
 #include "AddEditGrupy.h"
 #include "MessageService.h"
+#include "NamedButton.h"
 #include "PriceGroups.h"
 #include "ReportFailures.h"
 #include "SessionContext.h"
@@ -61,29 +62,27 @@ TfrmCennikWierszeKolumny::TfrmCennikWierszeKolumny(QWidget *owner) : TfrmRODefau
     const QStringList rangeColumns{QStringLiteral("Zakres od"), QStringLiteral("Zakres do")};
     tsKilometry = buildPage(QStringLiteral("Kilometry"), QStringLiteral("tsKilometry"), lvWiersze,
                             rangeColumns,
-                            {QStringLiteral("&Dodaj"), QStringLiteral("&Popraw"),
-                             QStringLiteral("&Usuń")},
-                            {&btnDodajWiersz, &btnPoprawWiersz, &btnUsunWiersz});
-    const QStringList plainCaptions{QStringLiteral("Dodaj"), QStringLiteral("Popraw"),
-                                    QStringLiteral("Usuń")};
-    tsKilogramy = buildPage(QStringLiteral("Kilogramy"), QStringLiteral("tsKilogramy"), lvKolumny,
-                            rangeColumns, plainCaptions,
-                            {&btnDodajKolumne, &btnPoprawKolumne, &btnUsunKolumne});
-    tsGrupy = buildPage(QStringLiteral("Grupy"), QStringLiteral("tsGrupy"), lvGrupy,
-                        {QStringLiteral("Nazwa"), QStringLiteral("Blokada")}, plainCaptions,
-                        {&btnDodajGrupe, &btnPoprawGrupe, &btnUsunGrupe});
+                            {{QStringLiteral("&Dodaj"), QStringLiteral("btnDodajWiersz"),
+                              &btnDodajWiersz},
+                             {QStringLiteral("&Popraw"), QStringLiteral("btnPoprawWiersz"),
+                              &btnPoprawWiersz},
+                             {QStringLiteral("&Usuń"), QStringLiteral("btnUsunWiersz"),
+                              &btnUsunWiersz}});
+    tsKilogramy = buildPage(
+        QStringLiteral("Kilogramy"), QStringLiteral("tsKilogramy"), lvKolumny, rangeColumns,
+        {{QStringLiteral("Dodaj"), QStringLiteral("btnDodajKolumne"), &btnDodajKolumne},
+         {QStringLiteral("Popraw"), QStringLiteral("btnPoprawKolumne"), &btnPoprawKolumne},
+         {QStringLiteral("Usuń"), QStringLiteral("btnUsunKolumne"), &btnUsunKolumne}});
+    tsGrupy = buildPage(
+        QStringLiteral("Grupy"), QStringLiteral("tsGrupy"), lvGrupy,
+        {QStringLiteral("Nazwa"), QStringLiteral("Blokada")},
+        {{QStringLiteral("Dodaj"), QStringLiteral("btnDodajGrupe"), &btnDodajGrupe},
+         {QStringLiteral("Popraw"), QStringLiteral("btnPoprawGrupe"), &btnPoprawGrupe},
+         {QStringLiteral("Usuń"), QStringLiteral("btnUsunGrupe"), &btnUsunGrupe}});
     lvWiersze->setObjectName(QStringLiteral("lvWiersze"));
     lvKolumny->setObjectName(QStringLiteral("lvKolumny"));
     lvGrupy->setObjectName(QStringLiteral("lvGrupy"));
     lvGrupy->setColumnWidth(0, 220);
-    const std::pair<QPushButton *, const char *> buttonNames[] = {
-        {btnDodajWiersz, "btnDodajWiersz"},   {btnPoprawWiersz, "btnPoprawWiersz"},
-        {btnUsunWiersz, "btnUsunWiersz"},     {btnDodajKolumne, "btnDodajKolumne"},
-        {btnPoprawKolumne, "btnPoprawKolumne"}, {btnUsunKolumne, "btnUsunKolumne"},
-        {btnDodajGrupe, "btnDodajGrupe"},     {btnPoprawGrupe, "btnPoprawGrupe"},
-        {btnUsunGrupe, "btnUsunGrupe"}};
-    for (const auto &[button, name] : buttonNames)
-        button->setObjectName(QLatin1String(name));
     auto *layout = new QVBoxLayout(pnlClient);
     layout->setContentsMargins(4, 4, 4, 4);
     layout->addWidget(PageControl1);
@@ -106,8 +105,7 @@ TfrmCennikWierszeKolumny::TfrmCennikWierszeKolumny(QWidget *owner) : TfrmRODefau
 
 QWidget *TfrmCennikWierszeKolumny::buildPage(const QString &title, const QString &name,
                                              TListView *&list, const QStringList &columns,
-                                             const QStringList &buttonCaptions,
-                                             std::array<QPushButton **, 3> buttons)
+                                             std::initializer_list<PageButton> buttons)
 {
     auto *page = new QWidget(PageControl1);
     page->setObjectName(name);
@@ -115,11 +113,9 @@ QWidget *TfrmCennikWierszeKolumny::buildPage(const QString &title, const QString
     for (const QString &caption : columns)
         list->addColumn(caption, 120);
     auto *buttonRow = new QHBoxLayout;
-    for (std::size_t i = 0; i < buttons.size(); ++i) {
-        auto *button = new QPushButton(buttonCaptions.value(int(i)), page);
-        button->setAutoDefault(false);
-        *buttons[i] = button;
-        buttonRow->addWidget(button);
+    for (const PageButton &button : buttons) {
+        *button.button = namedButton(button.caption, button.name, page);
+        buttonRow->addWidget(*button.button);
     }
     buttonRow->addStretch(1);
     auto *layout = new QVBoxLayout(page);

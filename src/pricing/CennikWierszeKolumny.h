@@ -3,7 +3,7 @@
 #include "DefaultWindow.h"
 #include "PriceRanges.h"
 
-#include <array>
+#include <initializer_list>
 
 class QPushButton;
 class QTabWidget;
@@ -49,9 +49,14 @@ protected:
     void LoadLVData() override;
 
 private:
+    struct PageButton
+    {
+        QString caption;
+        QString name;
+        QPushButton **button;
+    };
     QWidget *buildPage(const QString &title, const QString &name, TListView *&list,
-                       const QStringList &columns, const QStringList &buttonCaptions,
-                       std::array<QPushButton **, 3> buttons);
+                       const QStringList &columns, std::initializer_list<PageButton> buttons);
     void fillRanges(RangeAxis axis);
     void fillGroups();
     static void showKey(TListView *list, int key);

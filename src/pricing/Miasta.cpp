@@ -5,6 +5,7 @@
 #include "Format.h"
 #include "LVFrame.h"
 #include "MessageService.h"
+#include "NamedButton.h"
 #include "ReportFailures.h"
 #include "Routes.h"
 #include "SessionContext.h"
@@ -59,9 +60,8 @@ TfrmMiasta::TfrmMiasta(QWidget *owner) : TfrmRODefault(owner)
     CBMiasta->setMaxVisibleItems(24);
     CBMiasta->setMinimumWidth(220);
     lblMiasta->setBuddy(CBMiasta);
-    btnOdswiez = new QPushButton(QStringLiteral("Odśwież"), pnlBackground);
-    btnOdswiez->setObjectName(QStringLiteral("btnOdswiez"));
-    btnOdswiez->setAutoDefault(false);
+    btnOdswiez
+        = namedButton(QStringLiteral("Odśwież"), QStringLiteral("btnOdswiez"), pnlBackground);
     if (auto *header = qobject_cast<QBoxLayout *>(pnlBackground->layout())) {
         header->insertWidget(2, lblMiasta);
         header->insertWidget(3, CBMiasta);

@@ -1,9 +1,9 @@
 #include "StawkiTaryfowe.h"
 
-#include "ActionButton.h"
 #include "AddEditStawkiTaryfowe.h"
 #include "Format.h"
 #include "LVFrame.h"
+#include "LinkButton.h"
 #include "MessageService.h"
 #include "SessionContext.h"
 #include "TBitBtn.h"

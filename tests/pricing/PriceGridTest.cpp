@@ -4,12 +4,12 @@
 #include "Cenniki.h"
 #include "CennikiKontrahenci.h"
 #include "LVFrame.h"
-#include "LimitedSpinEdits.h"
 #include "PricingData.h"
 #include "ScriptedMessages.h"
 #include "ScriptedModalRunner.h"
 #include "SessionContext.h"
 #include "TBitBtn.h"
+#include "TLimitedFloatEdit.h"
 #include "TListView.h"
 #include "TestDatabase.h"
 

@@ -1,12 +1,12 @@
 #include "AddEditCennikWierszeKolumny.h"
 #include "AddEditGrupy.h"
 #include "CennikWierszeKolumny.h"
-#include "LimitedSpinEdits.h"
 #include "PricingData.h"
 #include "ScriptedMessages.h"
 #include "ScriptedModalRunner.h"
 #include "SessionContext.h"
 #include "TBitBtn.h"
+#include "TLimitedSpinEdit.h"
 #include "TListView.h"
 #include "TestDatabase.h"
 

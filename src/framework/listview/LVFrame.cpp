@@ -1,6 +1,7 @@
 #include "LVFrame.h"
 
 #include "FrameEvents.h"
+#include "NamedButton.h"
 #include "TBitBtn.h"
 #include "TImageList.h"
 #include "TListView.h"
@@ -27,14 +28,6 @@ int &sharedSearchColumn()
 }
 
 constexpr QSize ImageSize(20, 20);
-
-QPushButton *plainButton(const QString &caption, const QString &name, QWidget *parent)
-{
-    auto *button = new QPushButton(caption, parent);
-    button->setObjectName(name);
-    button->setAutoDefault(false);
-    return button;
-}
 
 } // namespace
 
@@ -72,8 +65,8 @@ void TframeListView::buildLayout()
     edSearch->setObjectName(QStringLiteral("edSearch"));
     edSearch->setStyleSheet(QStringLiteral("background-color: #ffffe1; color: blue;"));
     Label1->setBuddy(edSearch);
-    btnOpcje = plainButton(QStringLiteral("Opcje"), QStringLiteral("btnOpcje"), top);
-    btnUnBold = plainButton(QStringLiteral("Pogrubienie"), QStringLiteral("btnUnBold"), top);
+    btnOpcje = namedButton(QStringLiteral("Opcje"), QStringLiteral("btnOpcje"), top);
+    btnUnBold = namedButton(QStringLiteral("Pogrubienie"), QStringLiteral("btnUnBold"), top);
     btnUnBold->hide();
     BitBtn1 = TBitBtn::create(QStringLiteral("Sumuj kolumnę"), QStringLiteral("BitBtn1"), top);
     BitBtn2 = TBitBtn::create(QStringLiteral("Export do pliku"), QStringLiteral("BitBtn2"), top);
@@ -91,7 +84,7 @@ void TframeListView::buildLayout()
         topLayout->addWidget(button);
 
     QWidget *expanded = pnlSearch->expandedPart();
-    btnSearch = plainButton(QStringLiteral("S&zukaj"), QStringLiteral("btnSearch"), expanded);
+    btnSearch = namedButton(QStringLiteral("S&zukaj"), QStringLiteral("btnSearch"), expanded);
     rgSearchOptions = new TRadioGroup({QStringLiteral("Zawiera szukaną"),
                                        QStringLiteral("Jest równa szukanej"),
                                        QStringLiteral("Zaczyna się od szukanej")},

@@ -11,8 +11,7 @@ class TBitBtn : public QPushButton
 public:
     explicit TBitBtn(const QString &caption, QWidget *parent = nullptr);
 
-    // A named button that never takes Enter as the default button: in the
-    // forms Enter moves between fields, and in lists it belongs to the list.
+    // A named TBitBtn made by namedButton.
     static TBitBtn *create(const QString &caption, const QString &name, QWidget *parent);
 
     // 0: the button does not close its dialog.

@@ -2,6 +2,7 @@
 
 #include "ClosedOrderIcon.h"
 #include "LVFrame.h"
+#include "LinkButton.h"
 #include "OrderListColumns.h"
 #include "OrderPlaces.h"
 #include "SessionContext.h"
@@ -23,16 +24,6 @@ namespace {
 
 constexpr int MinimumWidth = 712;
 constexpr QSize InitialSize(963, 649);
-
-// A button that stands for an action: pressing it runs the action and it is
-// enabled exactly when the action is.
-void standFor(QPushButton *control, QAction *action)
-{
-    QObject::connect(control, &QPushButton::clicked, action, &QAction::trigger);
-    QObject::connect(action, &QAction::changed, control,
-                     [control, action] { control->setEnabled(action->isEnabled()); });
-    control->setEnabled(action->isEnabled());
-}
 
 QDateEdit *dateEdit(const QString &name, QWidget *parent)
 {
@@ -230,14 +221,14 @@ void TfrmZlecPrzychodzace::buildActions()
             &TfrmZlecPrzychodzace::acAdvancedEditExecute);
     connect(Zamknij1, &QAction::triggered, this, &TfrmZlecPrzychodzace::Zamknij1Click);
 
-    standFor(frameListView1->BitBtn5, acDodaj);
-    standFor(frameListView1->BitBtn4, acPopraw);
-    standFor(frameListView1->BitBtn6, acDelete);
-    standFor(btnPowiel, acPowiel);
-    standFor(BitBtn5, acWzor);
-    standFor(BitBtn12, acTowary);
-    standFor(BitBtn13, acMiejsceZaladunku);
-    standFor(BitBtn4, acMiejscaRozladunku);
+    linkButton(frameListView1->BitBtn5, acDodaj);
+    linkButton(frameListView1->BitBtn4, acPopraw);
+    linkButton(frameListView1->BitBtn6, acDelete);
+    linkButton(btnPowiel, acPowiel);
+    linkButton(BitBtn5, acWzor);
+    linkButton(BitBtn12, acTowary);
+    linkButton(BitBtn13, acMiejsceZaladunku);
+    linkButton(BitBtn4, acMiejscaRozladunku);
     connect(frameListView1->BitBtn7, &QPushButton::clicked, frameListView1,
             &TframeListView::Refresh);
     connect(btnCenniki, &QPushButton::clicked, this, &TfrmZlecPrzychodzace::btnCennikiClick);
