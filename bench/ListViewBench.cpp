@@ -2,10 +2,10 @@
 
 #include "BenchTimer.h"
 #include "ColumnValues.h"
-#include "DefaultWindow.h"
 #include "Format.h"
-#include "LVFrame.h"
 #include "MessageService.h"
+#include "TframeListView.h"
+#include "TfrmRODefault.h"
 
 #include <QBoxLayout>
 #include <QDate>

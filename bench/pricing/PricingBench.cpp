@@ -3,16 +3,16 @@
 // distance register, on a database the size of a busy domestic company.
 
 #include "BenchTimer.h"
-#include "Cenniki.h"
 #include "Connection.h"
 #include "Distances.h"
-#include "Miasta.h"
 #include "OffscreenProgram.h"
 #include "PriceLookup.h"
 #include "PriceRanges.h"
 #include "Schema.h"
 #include "SessionContext.h"
 #include "Statement.h"
+#include "TfrmCenniki.h"
+#include "TfrmMiasta.h"
 #include "Transaction.h"
 
 #include <QComboBox>

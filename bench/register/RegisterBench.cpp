@@ -12,14 +12,14 @@
 #include "DbError.h"
 #include "DemoSeeder.h"
 #include "FrameEvents.h"
-#include "LVFrame.h"
 #include "OffscreenProgram.h"
 #include "OrderListQuery.h"
 #include "Schema.h"
 #include "SessionContext.h"
 #include "Statement.h"
+#include "TframeListView.h"
+#include "TfrmZlecPrzychodzace.h"
 #include "Transaction.h"
-#include "ZlecPrzychodzace.h"
 
 #include <QElapsedTimer>
 #include <QTemporaryDir>

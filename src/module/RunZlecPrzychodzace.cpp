@@ -2,7 +2,7 @@
 
 #include "QtMessageService.h"
 #include "SessionContext.h"
-#include "ZlecPrzychodzace.h"
+#include "TfrmZlecPrzychodzace.h"
 
 std::int32_t runZlecPrzychodzace(std::int32_t userID, Connection *database,
                                  Transaction *transaction)

@@ -1,7 +1,7 @@
 #pragma once
 
-#include "DefaultWindow.h"
 #include "TTowaryObj.h"
+#include "TfrmRODefault.h"
 
 class QComboBox;
 class QLabel;

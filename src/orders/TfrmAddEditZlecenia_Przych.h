@@ -1,8 +1,8 @@
 #pragma once
 
-#include "DefaultWindow.h"
 #include "OrderRates.h"
 #include "TZlecenia_przychObj.h"
+#include "TfrmRODefault.h"
 
 class QAction;
 class QCheckBox;

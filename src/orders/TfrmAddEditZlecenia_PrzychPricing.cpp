@@ -5,12 +5,12 @@
 #include "DbError.h"
 #include "Distances.h"
 #include "KeyedLists.h"
-#include "Miasta.h"
 #include "MessageService.h"
 #include "PriceGroups.h"
 #include "PriceLookup.h"
-#include "StawkiTaryfowe.h"
 #include "TNumberEdit.h"
+#include "TfrmMiasta.h"
+#include "TfrmStawkiTaryfowe.h"
 
 #include <QAction>
 #include <QComboBox>

@@ -1,7 +1,7 @@
 #pragma once
 
-#include "DefaultWindow.h"
 #include "TMiejsca_zlecObj.h"
+#include "TfrmRODefault.h"
 
 #include <array>
 

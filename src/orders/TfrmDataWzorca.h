@@ -1,6 +1,6 @@
 #pragma once
 
-#include "DefaultWindow.h"
+#include "TfrmRODefault.h"
 
 #include <QDate>
 

@@ -1,8 +1,8 @@
 #include "TfrmTowaryNaZleceniu.h"
 
 #include "Format.h"
-#include "LVFrame.h"
 #include "SessionContext.h"
+#include "TframeListView.h"
 #include "TfrmAddEditTowaryNaZleceniu.h"
 
 #include <QAction>

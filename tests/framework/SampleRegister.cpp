@@ -1,7 +1,7 @@
 #include "SampleRegister.h"
 
-#include "LVFrame.h"
 #include "TListView.h"
+#include "TframeListView.h"
 
 #include <QBoxLayout>
 

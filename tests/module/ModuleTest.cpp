@@ -1,5 +1,4 @@
 #include "DemoSeeder.h"
-#include "LVFrame.h"
 #include "ModuleEntryPoints.h"
 #include "RunZlecPrzychodzace.h"
 #include "ScriptedMessages.h"
@@ -8,9 +7,10 @@
 #include "TBitBtn.h"
 #include "TDateEdit.h"
 #include "TestDatabase.h"
-#include "Transaction.h"
+#include "TframeListView.h"
 #include "TfrmAddEditZlecenia_Przych.h"
-#include "ZlecPrzychodzace.h"
+#include "TfrmZlecPrzychodzace.h"
+#include "Transaction.h"
 
 #include <QAction>
 #include <QApplication>

@@ -1,10 +1,10 @@
 #include "OrdersFixture.h"
 
-#include "LVFrame.h"
 #include "ScriptedMessages.h"
 #include "ScriptedModalRunner.h"
 #include "TBitBtn.h"
 #include "TNumberEdit.h"
+#include "TframeListView.h"
 #include "TfrmAddEditTowaryNaZleceniu.h"
 #include "TfrmTowaryNaZleceniu.h"
 

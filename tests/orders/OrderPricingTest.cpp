@@ -1,14 +1,14 @@
 #include "OrdersFixture.h"
 
 #include "IncomingOrderStatements.h"
-#include "LVFrame.h"
-#include "Miasta.h"
 #include "ScriptedMessages.h"
 #include "ScriptedModalRunner.h"
-#include "StawkiTaryfowe.h"
 #include "TBitBtn.h"
 #include "TNumberEdit.h"
+#include "TframeListView.h"
 #include "TfrmAddEditZlecenia_Przych.h"
+#include "TfrmMiasta.h"
+#include "TfrmStawkiTaryfowe.h"
 
 #include <QAction>
 #include <QLabel>

@@ -1,6 +1,3 @@
-#include "AddEditMiasta.h"
-#include "LVFrame.h"
-#include "Miasta.h"
 #include "PricingData.h"
 #include "ScriptedMessages.h"
 #include "ScriptedModalRunner.h"
@@ -9,6 +6,9 @@
 #include "TLimitedSpinEdit.h"
 #include "TListView.h"
 #include "TestDatabase.h"
+#include "TframeListView.h"
+#include "TfrmAddEditMiasta.h"
+#include "TfrmMiasta.h"
 #include "Transaction.h"
 
 #include <QComboBox>

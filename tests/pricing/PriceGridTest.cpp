@@ -1,9 +1,3 @@
-#include "AddEditCenniki.h"
-#include "CennikMenu.h"
-#include "CennikWierszeKolumny.h"
-#include "Cenniki.h"
-#include "CennikiKontrahenci.h"
-#include "LVFrame.h"
 #include "PricingData.h"
 #include "ScriptedMessages.h"
 #include "ScriptedModalRunner.h"
@@ -12,6 +6,12 @@
 #include "TLimitedFloatEdit.h"
 #include "TListView.h"
 #include "TestDatabase.h"
+#include "TframeListView.h"
+#include "TfrmAddEditCenniki.h"
+#include "TfrmCennikMenu.h"
+#include "TfrmCennikWierszeKolumny.h"
+#include "TfrmCenniki.h"
+#include "TfrmCennikiKontrahenci.h"
 
 #include <QComboBox>
 #include <QLabel>

@@ -1,6 +1,3 @@
-#include "AddEditCennikWierszeKolumny.h"
-#include "AddEditGrupy.h"
-#include "CennikWierszeKolumny.h"
 #include "PricingData.h"
 #include "ScriptedMessages.h"
 #include "ScriptedModalRunner.h"
@@ -9,6 +6,9 @@
 #include "TLimitedSpinEdit.h"
 #include "TListView.h"
 #include "TestDatabase.h"
+#include "TfrmAddEditCennikWierszeKolumny.h"
+#include "TfrmAddEditGrupy.h"
+#include "TfrmCennikWierszeKolumny.h"
 
 #include <QCheckBox>
 #include <QLabel>

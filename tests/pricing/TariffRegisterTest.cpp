@@ -1,16 +1,16 @@
-#include "AddEditStawkiTaryfowe.h"
-#include "LVFrame.h"
 #include "PricingData.h"
 #include "ScriptedMessages.h"
 #include "ScriptedModalRunner.h"
 #include "SessionContext.h"
-#include "StawkiTaryfowe.h"
 #include "TBitBtn.h"
 #include "TLimitedFloatEdit.h"
 #include "TLimitedSpinEdit.h"
 #include "TListView.h"
 #include "TTaryfyprzewoznikaObj.h"
 #include "TestDatabase.h"
+#include "TframeListView.h"
+#include "TfrmAddEditStawkiTaryfowe.h"
+#include "TfrmStawkiTaryfowe.h"
 
 #include <QAction>
 #include <QComboBox>

@@ -3,16 +3,16 @@
 //
 //   haulix-pricing [--db PATH] [--user ID] cennik|przedzialy|kontrahenci|taryfy|miasta
 
-#include "CennikMenu.h"
-#include "CennikWierszeKolumny.h"
-#include "CennikiKontrahenci.h"
 #include "Connection.h"
 #include "DbError.h"
 #include "DemoDatabase.h"
-#include "Miasta.h"
 #include "QtMessageService.h"
 #include "SessionContext.h"
-#include "StawkiTaryfowe.h"
+#include "TfrmCennikMenu.h"
+#include "TfrmCennikWierszeKolumny.h"
+#include "TfrmCennikiKontrahenci.h"
+#include "TfrmMiasta.h"
+#include "TfrmStawkiTaryfowe.h"
 #include "Transaction.h"
 
 #include <QApplication>

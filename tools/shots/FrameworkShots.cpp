@@ -1,9 +1,9 @@
-#include "DefaultWindow.h"
 #include "Format.h"
-#include "LVFrame.h"
 #include "ShotBook.h"
 #include "Shots.h"
-#include "WaitPlease.h"
+#include "TframeListView.h"
+#include "TfrmRODefault.h"
+#include "TfrmWaitPlease.h"
 
 #include <QBoxLayout>
 #include <QLabel>

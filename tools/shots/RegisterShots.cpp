@@ -1,14 +1,14 @@
 #include "Connection.h"
 #include "DemoSeeder.h"
-#include "LVFrame.h"
 #include "Schema.h"
 #include "SessionContext.h"
 #include "ShotBook.h"
 #include "ShotDatabase.h"
 #include "Shots.h"
+#include "TframeListView.h"
 #include "TfrmAdvancedEdit.h"
+#include "TfrmZlecPrzychodzace.h"
 #include "Transaction.h"
-#include "ZlecPrzychodzace.h"
 
 #include <QObject>
 #include <QTemporaryDir>

@@ -1,8 +1,8 @@
 #pragma once
 
-#include "DefaultWindow.h"
 #include "TUsersObj.h"
 #include "TZlecenia_przychObj.h"
+#include "TfrmRODefault.h"
 
 #include <optional>
 #include <vector>

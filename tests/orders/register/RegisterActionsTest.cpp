@@ -1,5 +1,3 @@
-#include "LVFrame.h"
-#include "Miasta.h"
 #include "OrderListColumns.h"
 #include "RegisterFixture.h"
 #include "ScriptedFilePrompts.h"
@@ -8,8 +6,10 @@
 #include "TBitBtn.h"
 #include "TMiejsca_zlecObj.h"
 #include "TTowaryObj.h"
+#include "TframeListView.h"
 #include "TfrmAddEditZlecenia_Przych.h"
 #include "TfrmAdvancedEdit.h"
+#include "TfrmMiasta.h"
 
 #include <QAction>
 #include <QComboBox>

@@ -1,6 +1,5 @@
 // The register opening the order's own dialogs: editor, goods, places and
 // the day for the templates.
-#include "LVFrame.h"
 #include "OrderListColumns.h"
 #include "RegisterFixture.h"
 #include "ScriptedMessages.h"
@@ -8,6 +7,7 @@
 #include "TBitBtn.h"
 #include "TDateEdit.h"
 #include "TMiejsca_zlecObj.h"
+#include "TframeListView.h"
 #include "TfrmAddEditZlecenia_Przych.h"
 #include "TfrmAdresy.h"
 #include "TfrmDataWzorca.h"

@@ -1,9 +1,9 @@
 #include "RegisterFixture.h"
 
 #include "DemoSeeder.h"
-#include "LVFrame.h"
 #include "SessionContext.h"
 #include "TMiejsca_zlecObj.h"
+#include "TframeListView.h"
 
 #include <gtest/gtest.h>
 

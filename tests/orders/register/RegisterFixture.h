@@ -2,8 +2,8 @@
 
 #include "TZlecenia_przychObj.h"
 #include "TestDatabase.h"
+#include "TfrmZlecPrzychodzace.h"
 #include "Transaction.h"
-#include "ZlecPrzychodzace.h"
 
 #include <gtest/gtest.h>
 

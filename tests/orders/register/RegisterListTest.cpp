@@ -1,10 +1,10 @@
 #include "Format.h"
-#include "LVFrame.h"
 #include "OrderListColumns.h"
 #include "RegisterFixture.h"
 #include "Statement.h"
 #include "TImageList.h"
 #include "TRadioGroup.h"
+#include "TframeListView.h"
 
 #include <QComboBox>
 #include <QDateEdit>

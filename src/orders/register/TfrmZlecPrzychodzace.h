@@ -1,0 +1,125 @@
+#pragma once
+
+#include "OrderListQuery.h"
+#include "TfrmRODefault.h"
+
+#include <functional>
+#include <memory>
+
+class QAction;
+class QComboBox;
+class QDateEdit;
+class QLabel;
+class QMenu;
+class TBitBtn;
+class TRadioGroup;
+class TframeListView;
+class Transaction;
+
+// The module's main window: the register of incoming orders. It lists the
+// orders of VZLECENIA_PRZYCH loaded within the date range (and every
+// undated one), with their revenue and its total, and from here the
+// dispatcher adds, edits, copies, deletes, closes and reopens orders,
+// inserts the template orders, opens an order's goods and places and the
+// distance register, and exports the list. Changing a filter reloads
+// nothing until the user refreshes.
+class TfrmZlecPrzychodzace : public TfrmRODefault
+{
+    Q_OBJECT
+
+public:
+    // The row image of a closed order in the frame's image list.
+    static constexpr int ClosedOrderImage = 16;
+
+    explicit TfrmZlecPrzychodzace(QWidget *owner = nullptr);
+    ~TfrmZlecPrzychodzace() override;
+
+    // The key of the selected order, 0 when no row is selected.
+    int selectedOrder() const;
+    // What the filter controls say now.
+    OrderListFilter filter() const;
+    // Read from the configuration at creation: whether road cards may be
+    // made from orders.
+    bool KartaZeZlecen() const { return m_kartaZeZlecen; }
+    // The sum of the revenue column over the listed rows.
+    double total() const { return m_total; }
+
+    // Filters.
+    QDateEdit *deOd;
+    QDateEdit *deDo;
+    TRadioGroup *RadioGroup1;   // "Rodzaj zlecenia"
+    TRadioGroup *RadioGroup2;   // "Umiejscowienie", hidden
+    QLabel *Label4;             // "Dysponent:", hidden
+    QComboBox *cbWspolnik;      // hidden; item data: ID_FILTRY_przych
+
+    TframeListView *frameListView1;
+
+    // The second row of buttons.
+    QWidget *pnlBttns;
+    TBitBtn *btnPowiel;
+    TBitBtn *BitBtn5;     // "Wstaw z wzorca", hidden
+    TBitBtn *BitBtn12;    // "Towary"
+    TBitBtn *BitBtn13;    // "M.załadunku"
+    TBitBtn *BitBtn4;     // "M.Rozladunku"
+    TBitBtn *BitBtn6;     // "&Kilometry"
+    TBitBtn *btnCenniki;  // "-> *.CSV"
+
+    QLabel *lblKwota;
+
+    QAction *acDodaj;
+    QAction *acPopraw;         // also a double click on a row
+    QAction *acDelete;
+    QAction *acShowDelete;
+    QAction *acPowiel;
+    QAction *acWzor;
+    QAction *acTowary;
+    QAction *acAddLadunki;     // the goods again, without a control
+    QAction *acMiejsceZaladunku;
+    QAction *acMiejscaRozladunku;
+    QAction *acUsunLadunek;
+    QAction *acAdvancedEdit;   // Ctrl+A
+    QAction *Zamknij1;         // popup "Zamknij\Otwórz"
+
+protected:
+    void FormCreate() override;
+    void LoadLVData() override;
+    void UpdateControls() override;
+
+private:
+    void buildFilters(QWidget *parent);
+    void buildButtons(QWidget *parent);
+    void buildFooter();
+    void buildActions();
+    void extendPopupMenu();
+    void fillPartnerList();
+
+    void acDodajExecute();
+    void acPoprawExecute();
+    void acDeleteExecute();
+    void acPowielExecute();
+    void acWzorExecute();
+    void acTowaryExecute();
+    // The loading (1) or unloading (2) place of the selected order, made
+    // empty first when the order has none.
+    void openPlace(int type);
+    void acUsunLadunekExecute();
+    void acAdvancedEditExecute();
+    void Zamknij1Click();
+    void btnCennikiClick();
+    void BitBtn6Click();
+
+    // The order editor, modally; returns its modal result.
+    int runEditor(int orderKey, int mode);
+    // Reloads the list and selects the order, scrolled into view.
+    void reloadAndSelect(int orderKey);
+    // Runs an action's work; a database failure is shown, not thrown into
+    // the event loop.
+    void guarded(const std::function<void()> &work);
+    // The session's transaction; a form run without one brackets its
+    // all-or-nothing work with a transaction of its own on the connection.
+    Transaction &transaction();
+
+    bool m_kartaZeZlecen = false;
+    std::unique_ptr<Transaction> m_ownTransaction;
+    double m_total = 0.0;
+};

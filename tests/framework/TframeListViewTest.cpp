@@ -1,0 +1,444 @@
+#include "FrameEvents.h"
+#include "SampleRegister.h"
+#include "ScriptedFilePrompts.h"
+#include "ScriptedMessages.h"
+#include "TListView.h"
+#include "TRadioGroup.h"
+#include "TframeListView.h"
+
+#include <QAction>
+#include <QCheckBox>
+#include <QRadioButton>
+#include <QClipboard>
+#include <QFile>
+#include <QGuiApplication>
+#include <QLineEdit>
+#include <QMenu>
+#include <QPushButton>
+#include <QTemporaryDir>
+#include <QTest>
+
+#include <gtest/gtest.h>
+
+namespace {
+
+const QStringList Captions{QStringLiteral("Nr"), QStringLiteral("Klient"), QStringLiteral("Miasto"),
+                           QStringLiteral("Kwota"), QStringLiteral("Data")};
+
+std::vector<QStringList> sampleRows()
+{
+    return {
+        {"00000003", "Trans-Bud", "Kraków", "10", "2024-03-01"},
+        {"00000001", "Agromax", "Poznań", "9", ""},
+        {"00000004", "Kraków Stal", "Łódź", "", "2023-12-31"},
+        {"00000002", "Zakład Mięsny", "Gdańsk", QString("1\u00A0234,50"), "2024-01-15"},
+    };
+}
+
+QAction *menuItem(QMenu *menu, const QString &submenu, const QString &item)
+{
+    for (QAction *action : menu->actions()) {
+        if (action->text() != submenu || !action->menu())
+            continue;
+        for (QAction *child : action->menu()->actions()) {
+            if (child->text() == item)
+                return child;
+        }
+    }
+    ADD_FAILURE() << "no menu item " << submenu.toStdString() << " / " << item.toStdString();
+    return nullptr;
+}
+
+QStringList column(const TListView &list, int column)
+{
+    QStringList values;
+    for (int row = 0; row < list.itemCount(); ++row)
+        values << list.text(row, column);
+    return values;
+}
+
+class LVFrame : public testing::Test
+{
+protected:
+    void SetUp() override
+    {
+        TframeListView::setSearchColumn(-1);
+        form = TfrmRODefault::create<TfrmSampleRegister>(Captions, sampleRows());
+        frame = form->frame;
+        list = frame->lvMain;
+        frame->numericColumns() << QStringLiteral("Kwota");
+        frame->dateColumns() << QStringLiteral("Data");
+        form->show();
+    }
+
+    void typeSearch(const QString &text)
+    {
+        frame->edSearch->setText(text);
+        QTest::keyRelease(frame->edSearch, Qt::Key_End);
+    }
+
+    std::unique_ptr<TfrmSampleRegister> form;
+    TframeListView *frame = nullptr;
+    TListView *list = nullptr;
+};
+
+} // namespace
+
+TEST_F(LVFrame, SearchWithoutAColumnSortsByTheFirstColumnFirst)
+{
+    typeSearch(QStringLiteral("00000004"));
+
+    EXPECT_EQ(TframeListView::searchColumn(), 0);
+    EXPECT_EQ(list->tag(), 0);
+    EXPECT_EQ(list->columnImage(0), 0);
+    EXPECT_EQ(column(*list, 0), QStringList({"00000001", "00000002", "00000003", "00000004"}));
+    EXPECT_EQ(list->selectedIndex(), 3);
+    // A key release in the box puts the button back to its first caption.
+    EXPECT_EQ(frame->btnSearch->text(), "&Szukaj");
+}
+
+TEST_F(LVFrame, NextContinuesAfterTheSelectionAndDoesNotWrap)
+{
+    TframeListView::setSearchColumn(1);
+    frame->acSearchOnKey->setChecked(false);
+    list->setSelectedIndex(0);
+    frame->edSearch->setText(QStringLiteral("a"));
+
+    QTest::keyClick(frame->edSearch, Qt::Key_Return);
+    EXPECT_EQ(list->selectedIndex(), 1);   // "Agromax", the row after the selected one
+    EXPECT_EQ(frame->btnSearch->text(), "&Dalej");
+
+    frame->edSearch->setText(QStringLiteral("Trans"));
+    frame->btnSearch->click();
+    // Only row 0 holds "Trans", and the search does not wrap back to it.
+    EXPECT_EQ(list->selectedIndex(), 1);
+}
+
+TEST_F(LVFrame, SearchOnKeyStaysOnTheMatchWhileTyping)
+{
+    TframeListView::setSearchColumn(1);
+    typeSearch(QStringLiteral("a"));
+    EXPECT_EQ(list->selectedIndex(), 0);   // "Trans-Bud"
+    typeSearch(QStringLiteral("ag"));
+    EXPECT_EQ(list->selectedIndex(), 1);   // "Agromax"
+    typeSearch(QStringLiteral("agr"));
+    EXPECT_EQ(list->selectedIndex(), 1);
+}
+
+TEST_F(LVFrame, OutsideTheFirstColumnEqualSearchesForContainedText)
+{
+    TframeListView::setSearchColumn(2);
+    frame->rgSearchOptions->setItemIndex(TframeListView::Equals);
+    list->setSelectedIndex(0);
+    frame->acSearchOnKey->setChecked(false);
+    frame->edSearch->setText(QStringLiteral("dań"));
+    frame->btnSearch->click();
+
+    EXPECT_EQ(list->text(list->selectedIndex(), 2), "Gdańsk");
+    EXPECT_EQ(frame->rgSearchOptions->itemIndex(), TframeListView::Contains);
+}
+
+TEST_F(LVFrame, EqualInTheFirstColumnNeedsTheWholeText)
+{
+    TframeListView::setSearchColumn(0);
+    frame->rgSearchOptions->setItemIndex(TframeListView::Equals);
+    frame->acSearchOnKey->setChecked(false);
+    list->setSelectedIndex(0);
+    frame->edSearch->setText(QStringLiteral("0000000"));
+    frame->btnSearch->click();
+    EXPECT_EQ(list->selectedIndex(), 0);
+    frame->edSearch->setText(QStringLiteral("00000004"));
+    frame->btnSearch->click();
+    EXPECT_EQ(list->selectedIndex(), 2);
+    EXPECT_EQ(frame->rgSearchOptions->itemIndex(), TframeListView::Equals);
+}
+
+TEST_F(LVFrame, LetterCaseCountsOnlyWhenAsked)
+{
+    TframeListView::setSearchColumn(1);
+    typeSearch(QStringLiteral("KRAKÓW"));
+    EXPECT_EQ(list->selectedIndex(), 2);
+    list->setSelectedIndex(0);
+    frame->acCaseSensitive->setChecked(false);
+    EXPECT_FALSE(frame->cbCaseSensitive->isChecked());
+    typeSearch(QStringLiteral("KRAKÓW"));
+    EXPECT_EQ(list->selectedIndex(), 0);
+}
+
+TEST_F(LVFrame, CtrlDigitSkipsHiddenColumns)
+{
+    list->setColumnWidth(1, 0);
+    QTest::keyClick(frame->edSearch, Qt::Key_2, Qt::ControlModifier);
+    EXPECT_EQ(TframeListView::searchColumn(), 2);
+
+    QTest::keyClick(frame->edSearch, Qt::Key_1, Qt::ControlModifier);
+    EXPECT_EQ(TframeListView::searchColumn(), 0);
+    // Four columns are visible: Ctrl+5 means nothing.
+    QTest::keyClick(frame->edSearch, Qt::Key_5, Qt::ControlModifier);
+    EXPECT_EQ(TframeListView::searchColumn(), 0);
+}
+
+TEST_F(LVFrame, SearchColumnIsDrawnBold)
+{
+    TframeListView::setSearchColumn(2);
+    const QModelIndex bold = list->items().index(0, 2);
+    const QModelIndex plain = list->items().index(0, 1);
+    EXPECT_TRUE(bold.data(Qt::FontRole).value<QFont>().bold());
+    EXPECT_FALSE(plain.data(Qt::FontRole).isValid());
+    menuItem(frame->pmMain, "Szukaj według kolumny", "[Brak]")->trigger();
+    EXPECT_EQ(TframeListView::searchColumn(), -1);
+    EXPECT_FALSE(bold.data(Qt::FontRole).isValid());
+}
+
+TEST_F(LVFrame, HeaderClickSortsTypedColumnsAscending)
+{
+    frame->sortByColumnClick(3);
+    EXPECT_EQ(column(*list, 3), QStringList({"", "9", "10", QString("1\u00A0234,50")}));
+    EXPECT_EQ(TframeListView::searchColumn(), 3);
+    EXPECT_EQ(list->columnImage(3), 0);
+
+    // A second click sorts the same way again.
+    frame->sortByColumnClick(3);
+    EXPECT_EQ(column(*list, 3), QStringList({"", "9", "10", QString("1\u00A0234,50")}));
+
+    frame->sortByColumnClick(4);
+    EXPECT_EQ(column(*list, 4), QStringList({"", "2023-12-31", "2024-01-15", "2024-03-01"}));
+    EXPECT_EQ(list->columnImage(3), -1);
+
+    frame->sortByColumnClick(2);
+    EXPECT_EQ(column(*list, 2), QStringList({"Gdańsk", "Kraków", "Łódź", "Poznań"}));
+}
+
+TEST_F(LVFrame, WrongValueInATypedColumnIsReportedAndLeavesTheOrder)
+{
+    form->rows[1][3] = QStringLiteral("dużo");
+    frame->Refresh();
+    const QStringList before = column(*list, 0);
+    scriptedMessages().expect(MessageService::Ok);
+    frame->sortByColumnClick(3);
+    ASSERT_EQ(scriptedMessages().shown().size(), 1u);
+    EXPECT_EQ(scriptedMessages().shown()[0].text, "'dużo' nie jest poprawną wartością liczbową.");
+    EXPECT_EQ(column(*list, 0), before);
+}
+
+TEST_F(LVFrame, SortMenuAndNoSortReloadInLoadOrder)
+{
+    menuItem(frame->pmMain, "Sortuj", "Miasto")->trigger();
+    EXPECT_EQ(list->tag(), 2);
+    EXPECT_EQ(column(*list, 2), QStringList({"Gdańsk", "Kraków", "Łódź", "Poznań"}));
+    const int loads = form->loads;
+    menuItem(frame->pmMain, "Sortuj", "[Brak]")->trigger();
+    EXPECT_EQ(list->tag(), -1);
+    EXPECT_EQ(form->loads, loads + 1);
+    EXPECT_EQ(column(*list, 2), QStringList({"Kraków", "Poznań", "Łódź", "Gdańsk"}));
+    EXPECT_EQ(list->columnImage(2), -1);
+}
+
+TEST_F(LVFrame, HideAndShowColumns)
+{
+    QAction *hideClient = menuItem(frame->pmMain, "Ukryj kolumny", "Klient");
+    hideClient->trigger();
+    EXPECT_TRUE(hideClient->isChecked());
+    EXPECT_EQ(list->columnWidth(1), 0);
+    EXPECT_EQ(list->columnTag(1), 120);
+    hideClient->trigger();
+    EXPECT_EQ(list->columnWidth(1), 120);
+
+    hideClient->trigger();
+    list->setColumnTag(1, 0);
+    menuItem(frame->pmMain, "Ukryj kolumny", "[Brak]")->trigger();
+    EXPECT_FALSE(hideClient->isChecked());
+    EXPECT_EQ(list->columnWidth(1), 100);
+    EXPECT_EQ(list->columnWidth(0), 120);
+}
+
+TEST_F(LVFrame, SearchOptionsMenuSetsTheRadioGroup)
+{
+    menuItem(frame->pmMain, "Opcje szukania", "Wartość w kolumnie zaczyna się od szukanej")
+        ->trigger();
+    EXPECT_EQ(frame->rgSearchOptions->itemIndex(), TframeListView::StartsWith);
+    QAction *contains
+        = menuItem(frame->pmMain, "Opcje szukania", "Wartość w kolumnie zawiera szukaną");
+    frame->rgSearchOptions->button(TframeListView::Equals)->click();
+    EXPECT_TRUE(contains->isChecked());
+    EXPECT_EQ(frame->rgSearchOptions->itemIndex(), TframeListView::Equals);
+}
+
+TEST_F(LVFrame, RefreshReloadsAndKeepsSortAndSelectedPosition)
+{
+    frame->sortByColumnClick(2);
+    list->setSelectedIndex(2);
+    const int loads = form->loads;
+    const int updates = form->updates;
+    form->rows.push_back({"00000005", "Baltic", "Bydgoszcz", "1", ""});
+
+    frame->Refresh();
+
+    EXPECT_EQ(form->loads, loads + 1);
+    EXPECT_GT(form->updates, updates);
+    EXPECT_EQ(column(*list, 2), QStringList({"Bydgoszcz", "Gdańsk", "Kraków", "Łódź", "Poznań"}));
+    EXPECT_EQ(list->selectedIndex(), 2);
+}
+
+TEST_F(LVFrame, F5RefreshesAndEnterOpensTheRow)
+{
+    int opened = 0;
+    QObject::connect(list, &TListView::dblClick, [&] { ++opened; });
+    const int loads = form->loads;
+    QTest::keyClick(list, Qt::Key_F5);
+    EXPECT_EQ(form->loads, loads + 1);
+    QTest::keyClick(list, Qt::Key_Return);
+    EXPECT_EQ(opened, 1);
+    EXPECT_TRUE(form->isVisible());
+}
+
+TEST_F(LVFrame, SelectionChangesReachTheOwner)
+{
+    const int updates = form->updates;
+    list->setSelectedIndex(3);
+    EXPECT_GT(form->updates, updates);
+    EXPECT_EQ(list->key(list->selectedIndex()), 103);
+    EXPECT_TRUE(list->selectByKey(101));
+    EXPECT_EQ(list->selectedIndex(), 1);
+    EXPECT_FALSE(list->selectByKey(999));
+}
+
+TEST_F(LVFrame, AutomaticUpdateAsksTheOwnerToReload)
+{
+    const int loads = form->loads;
+    frame->setRORefreshTime(30);
+    frame->setROAutoListViewUpdate(true);
+    EXPECT_EQ(form->loads, loads + 1);
+    frame->setROAutoListViewUpdate(false);
+    EXPECT_EQ(form->loads, loads + 2);
+}
+
+TEST_F(LVFrame, SumOfTheSearchColumn)
+{
+    TframeListView::setSearchColumn(3);
+    scriptedMessages().expect(MessageService::Ok);
+    frame->BitBtn1->click();
+    ASSERT_EQ(scriptedMessages().shown().size(), 1u);
+    const auto &box = scriptedMessages().shown()[0];
+    EXPECT_EQ(box.caption, "Sumowanych pozycji: 3 z 4");
+    EXPECT_TRUE(box.text.startsWith(QString("Suma kolumny: 1\u00A0253,50\n")));
+    EXPECT_EQ(box.icon, MessageService::Icon::Information);
+}
+
+TEST_F(LVFrame, SumNeedsRowsAndAColumn)
+{
+    scriptedMessages().expect(MessageService::Ok);
+    frame->sumColumn();
+    EXPECT_EQ(scriptedMessages().shown().at(0).caption, "Nie wybrano kolumny");
+    EXPECT_EQ(scriptedMessages().shown().at(0).text,
+              "Wybierz kolumnę, w której wartość ma być sumowana.");
+    EXPECT_EQ(scriptedMessages().shown().at(0).icon, MessageService::Icon::Warning);
+
+    form->rows.clear();
+    frame->Refresh();
+    scriptedMessages().expect(MessageService::Ok);
+    frame->sumColumn();
+    EXPECT_EQ(scriptedMessages().shown().at(1).text, "Brak danych!");
+}
+
+TEST_F(LVFrame, ExportWritesTheListAndSaysSo)
+{
+    QTemporaryDir dir;
+    const QString path = dir.filePath(QStringLiteral("zlecenia.csv"));
+    scriptedFilePrompts().answer(path);
+    scriptedMessages().expect(MessageService::Ok);
+    frame->BitBtn2->click();
+
+    EXPECT_EQ(scriptedMessages().shown().at(0).text, "Operacja zakończona.");
+    ASSERT_EQ(scriptedFilePrompts().asked().size(), 1u);
+    EXPECT_EQ(scriptedFilePrompts().asked()[0].filter, "Pliki CSV|*.csv|Wszystkie pliki|*.*");
+    QFile file(path);
+    ASSERT_TRUE(file.open(QIODevice::ReadOnly));
+    const QStringList lines = QString::fromUtf8(file.readAll()).split(QStringLiteral("\r\n"));
+    EXPECT_EQ(lines.value(0), "Nr;Klient;Miasto;Kwota;Data");
+    EXPECT_EQ(lines.value(1), "00000003;Trans-Bud;Kraków;10;2024-03-01");
+    EXPECT_EQ(lines.value(4), "00000002;Zakład Mięsny;Gdańsk;1234,50;2024-01-15");
+}
+
+TEST_F(LVFrame, ExportMessages)
+{
+    scriptedFilePrompts().answer(QStringLiteral("/nonexistent/dir/zlecenia.csv"));
+    scriptedMessages().expect(MessageService::Ok);
+    frame->exportToFile();
+    EXPECT_EQ(scriptedMessages().shown().at(0).text,
+              "Błąd otwarcia pliku (/nonexistent/dir/zlecenia.csv)");
+
+    // A cancelled dialog writes nothing and says nothing.
+    scriptedFilePrompts().answer(QString());
+    frame->exportToFile();
+    EXPECT_EQ(scriptedMessages().shown().size(), 1u);
+
+    form->rows.clear();
+    frame->Refresh();
+    scriptedMessages().expect(MessageService::Ok);
+    frame->exportToFile();
+    EXPECT_EQ(scriptedMessages().shown().at(1).text, "Brak danych!");
+}
+
+TEST(LVFrameWithoutColumns, ExportSaysThereAreNoColumns)
+{
+    TfrmSampleRegister form({}, {});
+    scriptedMessages().expect(MessageService::Ok);
+    form.frame->exportToFile();
+    EXPECT_EQ(scriptedMessages().shown().at(0).text, "Brak kolumn!");
+}
+
+TEST_F(LVFrame, SystemInformationCanBeCopied)
+{
+    scriptedMessages().expect(MessageService::Yes);
+    frame->BitBtn3->click();
+    const auto &box = scriptedMessages().shown().at(0);
+    EXPECT_EQ(box.caption, "Informacja systemowa.");
+    EXPECT_EQ(box.buttons, MessageService::Yes | MessageService::No);
+    const QStringList lines = box.text.split(u'\n');
+    ASSERT_EQ(lines.size(), 6);
+    EXPECT_TRUE(lines[0].startsWith("Aplikacja: ") && lines[0].endsWith(" ver: -"));
+    EXPECT_TRUE(lines[1].startsWith("Moduł: ") && lines[1].endsWith(" ver:0.1.0.0"));
+    EXPECT_EQ(lines[2], "Okno: TfrmSampleRegister");
+    EXPECT_TRUE(lines[4].startsWith("Zajęte: ") && lines[4].endsWith(" blokach."));
+    EXPECT_EQ(lines[5], "Czy skopiować informacje do schowka?");
+    EXPECT_EQ(QGuiApplication::clipboard()->text(), box.text);
+}
+
+TEST_F(LVFrame, SearchPanelOpensAndCloses)
+{
+    EXPECT_EQ(frame->pnlSearch->height(), 40);
+    frame->btnOpcje->click();
+    EXPECT_EQ(frame->pnlSearch->height(), 100);
+    EXPECT_EQ(frame->pnlSearch->palette().color(QPalette::Window), QColor(0xC0, 0xC0, 0xC0));
+    frame->btnOpcje->click();
+    EXPECT_EQ(frame->pnlSearch->height(), 40);
+}
+
+TEST(LVFrameSettings, SurviveClosingAndReopeningTheForm)
+{
+    TframeListView::setSearchColumn(-1);
+    {
+        auto form = TfrmRODefault::create<TfrmSampleRegister>(Captions, sampleRows(), 42);
+        TframeListView *frame = form->frame;
+        menuItem(frame->pmMain, "Ukryj kolumny", "Miasto")->trigger();
+        frame->lvMain->setColumnWidth(0, 150);
+        frame->acSearchOnKey->setChecked(false);
+        frame->acCaseSensitive->setChecked(false);
+        frame->rgSearchOptions->setItemIndex(TframeListView::StartsWith);
+        EXPECT_EQ(frame->settingsGroup(), "42/TfrmSampleRegister/frameListView1");
+    }
+    auto form = TfrmRODefault::create<TfrmSampleRegister>(Captions, sampleRows(), 42);
+    TframeListView *frame = form->frame;
+    EXPECT_EQ(frame->lvMain->columnWidth(0), 150);
+    EXPECT_EQ(frame->lvMain->columnWidth(2), 0);
+    EXPECT_TRUE(menuItem(frame->pmMain, "Ukryj kolumny", "Miasto")->isChecked());
+    EXPECT_FALSE(frame->acSearchOnKey->isChecked());
+    EXPECT_FALSE(frame->cbCaseSensitive->isChecked());
+    EXPECT_EQ(frame->rgSearchOptions->itemIndex(), TframeListView::StartsWith);
+
+    // Another user starts from the layout's defaults.
+    auto other = TfrmRODefault::create<TfrmSampleRegister>(Captions, sampleRows(), 43);
+    EXPECT_EQ(other->frame->lvMain->columnWidth(2), 120);
+    EXPECT_TRUE(other->frame->acSearchOnKey->isChecked());
+}
