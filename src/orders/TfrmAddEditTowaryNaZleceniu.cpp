@@ -1,8 +1,7 @@
 #include "TfrmAddEditTowaryNaZleceniu.h"
 
-#include "DbError.h"
 #include "KeyedLists.h"
-#include "MessageService.h"
+#include "ReportFailures.h"
 #include "TBitBtn.h"
 #include "TNumberEdit.h"
 
@@ -83,12 +82,9 @@ void TfrmAddEditTowaryNaZleceniu::FormCreate()
     Connection &connection = m_goods.connection();
     KeyedLists::fillUnits(cbJM, connection);
     QStringList names;
-    try {
-        names = m_goods.SelectDistinct(QStringLiteral("NAZWA"));
-    } catch (const DbError &error) {
-        // Without the earlier names the field still takes a typed one.
-        Messages::error(error.message());
-    }
+    // Without the earlier names the field still takes a typed one.
+    reportFailures(QStringLiteral("Nie można odczytać nazw towarów"),
+                   [&] { names = m_goods.SelectDistinct(QStringLiteral("NAZWA")); });
     names.removeAll(QString());
     QCollator collator{QLocale(QLocale::Polish, QLocale::Poland)};
     std::sort(names.begin(), names.end(),

@@ -1,12 +1,12 @@
 #include "TfrmAddEditZlecenia_Przych.h"
 
 #include "ClockTime.h"
-#include "DbError.h"
 #include "Format.h"
 #include "IncomingOrderStatements.h"
 #include "KeyedLists.h"
 #include "MessageService.h"
 #include "OrderNumbering.h"
+#include "ReportFailures.h"
 #include "SessionContext.h"
 #include "TBitBtn.h"
 #include "TDaneFirmy.h"
@@ -127,7 +127,7 @@ void TfrmAddEditZlecenia_Przych::FormCreate()
 {
     setROCloseOnESC(true);
     TfrmRODefault::FormCreate();
-    try {
+    reportFailures(QStringLiteral("Nie można odczytać danych zlecenia"), [&] {
         m_ownerKey = TDaneFirmy().GetConfigInt(QStringLiteral("IDWłaściciela"));
         fillLists();
         fillPriceListMenu();
@@ -138,9 +138,7 @@ void TfrmAddEditZlecenia_Przych::FormCreate()
         } else {
             showNewOrder();
         }
-    } catch (const DbError &error) {
-        Messages::error(error.message());
-    }
+    });
 }
 
 void TfrmAddEditZlecenia_Przych::fillLists()
@@ -434,11 +432,6 @@ void TfrmAddEditZlecenia_Przych::btnOkClick()
 {
     if (!collectOrder())
         return;
-    try {
-        save();
-    } catch (const DbError &error) {
-        Messages::error(error.message());
-        return;
-    }
-    done(mrOk);
+    if (reportFailures(QStringLiteral("Nie można zapisać zlecenia"), [&] { save(); }))
+        done(mrOk);
 }

@@ -2,12 +2,11 @@
 // distance of the route from the distance memory.
 #include "TfrmAddEditZlecenia_Przych.h"
 
-#include "DbError.h"
 #include "Distances.h"
 #include "KeyedLists.h"
-#include "MessageService.h"
 #include "PriceGroups.h"
 #include "PriceLookup.h"
+#include "ReportFailures.h"
 #include "TNumberEdit.h"
 #include "TfrmMiasta.h"
 #include "TfrmStawkiTaryfowe.h"
@@ -49,11 +48,8 @@ void TfrmAddEditZlecenia_Przych::fillPriceListMenu()
 {
     pmCennik->clear();
     std::vector<PriceGroup> groups;
-    try {
-        groups = PriceGroups::unblocked(m_order.connection());
-    } catch (const DbError &error) {
-        Messages::error(error.message());
-    }
+    reportFailures(QStringLiteral("Nie można odczytać grup cenników"),
+                   [&] { groups = PriceGroups::unblocked(m_order.connection()); });
     groups.insert(groups.begin(), PriceGroup{0, PriceGroups::MainPriceList, false});
     for (const PriceGroup &group : groups) {
         QAction *entry = pmCennik->addAction(group.name);
@@ -66,13 +62,11 @@ void TfrmAddEditZlecenia_Przych::fillPriceListMenu()
 void TfrmAddEditZlecenia_Przych::priceListChosen(int group)
 {
     double amount = 0.0;
-    try {
-        amount = PriceLookup::amount(m_order.connection(), group, seOdleglosc->value(),
-                                     seKMPustych->value());
-    } catch (const DbError &error) {
-        Messages::error(error.message());
+    if (!reportFailures(QStringLiteral("Nie można odczytać stawki z cennika"), [&] {
+            amount = PriceLookup::amount(m_order.connection(), group, seOdleglosc->value(),
+                                         seKMPustych->value());
+        }))
         return;
-    }
     rbStawkaUmowna->setChecked(true);
     rbStawkaClick();
     seKwota->setValue(amount);
@@ -130,14 +124,12 @@ bool TfrmAddEditZlecenia_Przych::eventFilter(QObject *watched, QEvent *event)
 void TfrmAddEditZlecenia_Przych::cityChosen()
 {
     std::optional<int> kilometres;
-    try {
+    reportFailures(QStringLiteral("Nie można odczytać odległości"), [&] {
         kilometres = Distances::lookup(
             m_order.connection(), KeyedLists::currentKeyOr(cbMiastoOd, m_order.IDMIASTO_OD),
             KeyedLists::currentKeyOr(cbMiastoPrzez, m_order.IDMIASTO_VIA),
             KeyedLists::currentKeyOr(cbMiastoDo, m_order.IDMIASTO_DO));
-    } catch (const DbError &error) {
-        Messages::error(error.message());
-    }
+    });
     seOdleglosc->setValue(kilometres.value_or(0));
     seKMLadownych->setValue(kilometres.value_or(0));
 }
@@ -146,15 +138,13 @@ void TfrmAddEditZlecenia_Przych::btnMiastoClick()
 {
     TfrmRODefault::create<TfrmMiasta>(this)->showModal();
     // The register may have been used to add or rename cities.
-    try {
+    reportFailures(QStringLiteral("Nie można odczytać miast"), [&] {
         for (QComboBox *city : {cbMiastoOd, cbMiastoPrzez, cbMiastoDo}) {
             const int chosen = KeyedLists::currentKey(city);
             KeyedLists::fillCities(city, m_order.connection());
             KeyedLists::selectKey(city, chosen);
         }
-    } catch (const DbError &error) {
-        Messages::error(error.message());
-    }
+    });
 }
 
 void TfrmAddEditZlecenia_Przych::rememberRoute()

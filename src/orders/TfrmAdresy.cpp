@@ -1,8 +1,7 @@
 #include "TfrmAdresy.h"
 
 #include "ClientAddresses.h"
-#include "DbError.h"
-#include "MessageService.h"
+#include "ReportFailures.h"
 #include "TBitBtn.h"
 #include "TZlecenia_przychObj.h"
 
@@ -83,13 +82,9 @@ void TfrmAdresy::FormCreate()
 {
     setROCloseOnESC(true);
     TfrmRODefault::FormCreate();
-    try {
-        const TZlecenia_przychObj order
-            = TZlecenia_przychObj(m_place.connection()).SelectById(m_place.ID_ZLECENIA);
-        m_clientKey = order.IDKONTRAHENTA != 0 ? order.IDKONTRAHENTA : m_place.ID_KONTRAHENT;
-    } catch (const DbError &error) {
-        Messages::error(error.message());
-    }
+    const TZlecenia_przychObj order
+        = TZlecenia_przychObj(m_place.connection()).SelectById(m_place.ID_ZLECENIA);
+    m_clientKey = order.IDKONTRAHENTA != 0 ? order.IDKONTRAHENTA : m_place.ID_KONTRAHENT;
 }
 
 void TfrmAdresy::showSlot(int index, const TMiejsca_zlecObj::Slot &slot)
@@ -106,12 +101,10 @@ void TfrmAdresy::lookUpFirstName()
     const QString typed = edNazwa[0]->text();
     if (typed.isEmpty() || m_clientKey == 0)
         return;
-    try {
+    reportFailures(QStringLiteral("Nie można odczytać adresów kontrahenta"), [&] {
         if (const auto known = ClientAddresses::find(m_place.connection(), m_clientKey, typed))
             showSlot(0, *known);
-    } catch (const DbError &error) {
-        Messages::error(error.message());
-    }
+    });
 }
 
 void TfrmAdresy::btnOkClick()

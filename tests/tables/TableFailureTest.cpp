@@ -1,26 +1,13 @@
 #include "DbError.h"
 #include "ErrorLog.h"
+#include "ErrorLogs.h"
 #include "ScriptedMessages.h"
 #include "TableObjects.h"
 #include "TestDatabase.h"
 
-#include <QDate>
-#include <QSettings>
-
 #include <gtest/gtest.h>
 
 namespace {
-
-// Every value logged today in an error log of the current directory.
-QStringList loggedToday(const QString &file)
-{
-    QSettings log(file, QSettings::IniFormat);
-    log.beginGroup(QDate::currentDate().toString(QStringLiteral("dd-MM-yyyy")));
-    QStringList values;
-    for (const QString &key : log.childKeys())
-        values << log.value(key).toString();
-    return values;
-}
 
 const ScriptedMessages::Shown &onlyBox()
 {
@@ -127,9 +114,4 @@ TEST(TableFailure, GuardedMaxIdReportsAndGivesZeroUnguardedThrows)
     EXPECT_THROW(order.GetMaxId(), DbError);
     EXPECT_THROW(TMiastaObj(db.connection()).SelectDistinct(QStringLiteral("NAZWA")), DbError);
     EXPECT_EQ(scriptedMessages().shown().size(), 1u);
-}
-
-TEST(ErrorLog, LineBreaksBecomeBlanks)
-{
-    EXPECT_EQ(ErrorLog::oneLine(QStringLiteral("a\r\nb\nc")), QStringLiteral("a b c"));
 }

@@ -1,11 +1,12 @@
 #include "TfrmZlecPrzychodzace.h"
 
 #include "ClosedOrderIcon.h"
+#include "KeyedLists.h"
 #include "LinkButton.h"
 #include "OrderListColumns.h"
 #include "OrderPlaces.h"
+#include "ReportFailures.h"
 #include "SessionContext.h"
-#include "Statement.h"
 #include "TBitBtn.h"
 #include "TDaneFirmy.h"
 #include "TImageList.h"
@@ -285,18 +286,10 @@ void TfrmZlecPrzychodzace::fillPartnerList()
 {
     cbWspolnik->clear();
     cbWspolnik->addItem(QStringLiteral("---"), 0);
-    guarded([this] {
-        Connection *database = session().Database;
-        if (!database)
-            return;
-        Statement st(*database);
-        st.add(QStringLiteral("select * from FILTRY_przych where NR_FILTRA=1 "));
-        st.exec();
-        const int key = st.columnIndex(QStringLiteral("ID_FILTRY_PRZYCH"));
-        const int description = st.columnIndex(QStringLiteral("OPIS"));
-        for (; !st.atEnd(); st.next())
-            cbWspolnik->addItem(st.string(description), st.integer(key));
-    });
+    if (Connection *database = session().Database) {
+        reportFailures(QStringLiteral("Nie można odczytać dysponentów"),
+                       [&] { KeyedLists::fillFilters(cbWspolnik, *database); });
+    }
     cbWspolnik->setCurrentIndex(0);
 }
 

@@ -3,7 +3,6 @@
 #include "OrderListQuery.h"
 #include "TfrmRODefault.h"
 
-#include <functional>
 #include <memory>
 
 class QAction;
@@ -112,9 +111,6 @@ private:
     int runEditor(int orderKey, int mode);
     // Reloads the list and selects the order, scrolled into view.
     void reloadAndSelect(int orderKey);
-    // Runs an action's work; a database failure is shown, not thrown into
-    // the event loop.
-    void guarded(const std::function<void()> &work);
     // The session's transaction; a form run without one brackets its
     // all-or-nothing work with a transaction of its own on the connection.
     Transaction &transaction();

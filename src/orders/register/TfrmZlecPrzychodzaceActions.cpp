@@ -29,15 +29,6 @@ QString exportFileName()
 
 } // namespace
 
-void TfrmZlecPrzychodzace::guarded(const std::function<void()> &work)
-{
-    try {
-        work();
-    } catch (const DbError &error) {
-        Messages::error(error.message());
-    }
-}
-
 Transaction &TfrmZlecPrzychodzace::transaction()
 {
     if (::Transaction *shared = session().Transaction)
@@ -81,14 +72,12 @@ void TfrmZlecPrzychodzace::acUsunLadunekExecute()
     const int key = selectedOrder();
     if (key == 0)
         return;
-    guarded([&] {
-        TZlecenia_przychObj order = TZlecenia_przychObj(*session().Database).SelectById(key);
-        if (order.ID_ZLECENIA_PRZYCH == 0)
-            return;
-        order.IDZLECENIAZBIOR = 0;
-        order.Update();
-        LoadLVData();
-    });
+    TZlecenia_przychObj order = TZlecenia_przychObj(*session().Database).SelectById(key);
+    if (order.ID_ZLECENIA_PRZYCH == 0)
+        return;
+    order.IDZLECENIAZBIOR = 0;
+    order.Update();
+    LoadLVData();
 }
 
 void TfrmZlecPrzychodzace::acAdvancedEditExecute()
@@ -98,7 +87,7 @@ void TfrmZlecPrzychodzace::acAdvancedEditExecute()
         return;
     auto edit = TfrmRODefault::create<TfrmAdvancedEdit>(this, key);
     if (edit->showModal() == mrOk)
-        guarded([&] { reloadAndSelect(key); });
+        reloadAndSelect(key);
 }
 
 void TfrmZlecPrzychodzace::Zamknij1Click()
@@ -106,13 +95,11 @@ void TfrmZlecPrzychodzace::Zamknij1Click()
     const int key = selectedOrder();
     if (key == 0 || !Privileges::require(Privileges::Edit, this))
         return;
-    guarded([&] {
-        TZlecenia_przychObj order = TZlecenia_przychObj(*session().Database).SelectById(key);
-        if (order.ID_ZLECENIA_PRZYCH == 0)
-            return;
+    TZlecenia_przychObj order = TZlecenia_przychObj(*session().Database).SelectById(key);
+    if (order.ID_ZLECENIA_PRZYCH != 0) {
         order.ZAMKNIETE = order.ZAMKNIETE == 0 ? 1 : 0;
         order.Update();
-    });
+    }
     frameListView1->Refresh();
 }
 

@@ -7,6 +7,7 @@
 #include "OrderPlaces.h"
 #include "OrderTemplates.h"
 #include "Privileges.h"
+#include "ReportFailures.h"
 #include "SessionContext.h"
 #include "TMiejsca_zlecObj.h"
 #include "TZlecenia_przychObj.h"
@@ -28,11 +29,12 @@ void TfrmZlecPrzychodzace::acDodajExecute()
         return;
     if (runEditor(0, TfrmAddEditZlecenia_Przych::Add) != mrOk)
         return;
-    guarded([this] {
-        // The editor does not say which key the database gave the order;
-        // the newest key is the one it has just inserted.
-        reloadAndSelect(TZlecenia_przychObj(*session().Database).GetMaxId());
-    });
+    int added = 0;
+    // The editor does not say which key the database gave the order; the
+    // newest key is the one it has just inserted.
+    reportFailures(QStringLiteral("Nie można odczytać nowego zlecenia"),
+                   [&] { added = TZlecenia_przychObj(*session().Database).GetMaxId(); });
+    reloadAndSelect(added);
 }
 
 void TfrmZlecPrzychodzace::acPoprawExecute()
@@ -41,7 +43,7 @@ void TfrmZlecPrzychodzace::acPoprawExecute()
     if (key == 0 || !Privileges::require(Privileges::Edit, this))
         return;
     if (runEditor(key, TfrmAddEditZlecenia_Przych::Edit) == mrOk)
-        guarded([&] { reloadAndSelect(key); });
+        reloadAndSelect(key);
 }
 
 void TfrmZlecPrzychodzace::acPowielExecute()
@@ -53,7 +55,7 @@ void TfrmZlecPrzychodzace::acPowielExecute()
                            QStringLiteral("Czy powielić wybraną pozycję?")))
         return;
     int copy = 0;
-    guarded([&] {
+    reportFailures(QStringLiteral("Nie można powielić zlecenia"), [&] {
         copy = copyOrderWithPlacesAndGoods(*session().Database, transaction(), source);
     });
     if (copy == 0)
@@ -61,7 +63,7 @@ void TfrmZlecPrzychodzace::acPowielExecute()
     // The copy is saved already; in the editor the dispatcher gives it its
     // own number and whatever else differs, so its answer changes nothing.
     runEditor(copy, TfrmAddEditZlecenia_Przych::Edit);
-    guarded([&] { reloadAndSelect(copy); });
+    reloadAndSelect(copy);
     frameListView1->lvMain->setFocus();
 }
 
@@ -71,7 +73,7 @@ void TfrmZlecPrzychodzace::acWzorExecute()
     if (prompt->showModal() != mrOk)
         return;
     const QDate day = prompt->date();
-    guarded([&] {
+    reportFailures(QStringLiteral("Nie można wstawić zleceń z wzorca"), [&] {
         Connection &database = *session().Database;
         if (OrderTemplates::ordersOnDay(database, day)
             && !Messages::confirm(QStringLiteral("Wzorzec"),
@@ -97,7 +99,7 @@ void TfrmZlecPrzychodzace::openPlace(int type)
     if (key == 0)
         return;
     TMiejsca_zlecObj place(*session().Database);
-    guarded([&] {
+    reportFailures(QStringLiteral("Nie można przygotować miejsca zlecenia"), [&] {
         place = OrderPlaces::placeOf(*session().Database, key, type);
         if (place.ID_MIEJSCA_ZLEC != 0)
             place.Update();

@@ -3,6 +3,7 @@
 
 #include "Format.h"
 #include "OrderListReader.h"
+#include "ReportFailures.h"
 #include "SessionContext.h"
 #include "Statement.h"
 #include "TframeListView.h"
@@ -31,7 +32,7 @@ void TfrmZlecPrzychodzace::LoadLVData()
 {
     TListView &list = *frameListView1->lvMain;
     m_total = 0.0;
-    guarded([&] {
+    reportFailures(QStringLiteral("Nie można odczytać listy zleceń"), [&] {
         const ListUpdate update(list);
         list.clear();
         Connection *database = session().Database;
