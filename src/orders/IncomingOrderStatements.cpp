@@ -1,6 +1,5 @@
 #include "IncomingOrderStatements.h"
 
-#include "DbError.h"
 #include "Statement.h"
 
 namespace IncomingOrderStatements {
@@ -22,23 +21,6 @@ QString parameter(const QString &column)
     return QStringLiteral(":a") + column;
 }
 
-const Column<TZlecenia_przychObj> &columnNamed(const QString &name)
-{
-    for (const auto &column : TZlecenia_przychObj::description().columns) {
-        if (column.name.compare(name, Qt::CaseInsensitive) == 0)
-            return column;
-    }
-    throw DbError(QStringLiteral("Brak kolumny %1 w tabeli ZLECENIA_PRZYCH").arg(name));
-}
-
-void bindColumns(Statement &st, const TZlecenia_przychObj &order, const QStringList &columns)
-{
-    for (const QString &name : columns) {
-        std::visit([&](auto member) { st.bind(QStringLiteral("a") + name, order.*member); },
-                   columnNamed(name).field);
-    }
-}
-
 } // namespace
 
 QStringList insertedColumns()
@@ -56,25 +38,8 @@ TZlecenia_przychObj load(Connection &connection, int orderKey)
     st.bind(QStringLiteral("aIDZlecenia"), orderKey);
     st.exec();
     TZlecenia_przychObj order(connection);
-    if (st.atEnd())
-        return order;
-    const auto &d = TZlecenia_przychObj::description();
-    order.*(d.keyField) = st.integer(d.info.key);
-    for (const auto &column : d.columns) {
-        std::visit(
-            [&](auto member) {
-                using Value = std::remove_reference_t<decltype(order.*member)>;
-                if constexpr (std::is_same_v<Value, int>)
-                    order.*member = st.integer(column.name);
-                else if constexpr (std::is_same_v<Value, double>)
-                    order.*member = st.number(column.name);
-                else if constexpr (std::is_same_v<Value, DateTime>)
-                    order.*member = st.dateTime(column.name);
-                else
-                    order.*member = st.string(column.name);
-            },
-            column.field);
-    }
+    if (!st.atEnd())
+        order.readCurrentRow(st);
     return order;
 }
 
@@ -87,7 +52,7 @@ void insert(Connection &connection, const TZlecenia_przychObj &order)
     Statement st(connection);
     st.add(QStringLiteral("INSERT INTO ZLECENIA_PRZYCH (") + ColumnList + u')');
     st.add(QStringLiteral("VALUES (") + parameters.join(u',') + u')');
-    bindColumns(st, order, columns);
+    order.bindColumns(st, columns);
     st.exec();
 }
 
@@ -101,7 +66,7 @@ void update(Connection &connection, const TZlecenia_przychObj &order)
     Statement st(connection);
     st.add(QStringLiteral("UPDATE ZLECENIA_PRZYCH SET ") + assignments.join(QStringLiteral(", ")));
     st.add(QStringLiteral("WHERE ID_ZLECENIA_PRZYCH=:aIDZlecenia"));
-    bindColumns(st, order, columns);
+    order.bindColumns(st, columns);
     st.bind(QStringLiteral("aIDZlecenia"), order.ID_ZLECENIA_PRZYCH);
     st.exec();
 }

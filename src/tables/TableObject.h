@@ -175,10 +175,24 @@ public:
     // as NULL, an empty text as an empty text.
     void bindColumns(Statement &st) const
     {
-        for (const Column<Derived> &column : Derived::description().columns) {
-            const QString parameter = QStringLiteral("a") + column.name;
-            std::visit([&](auto member) { st.bind(parameter, self().*member); }, column.field);
-        }
+        for (const Column<Derived> &column : Derived::description().columns)
+            bindColumn(st, column, QStringLiteral("a") + column.name);
+    }
+
+    // The same for the named columns only, each to ":a" + the name as
+    // given (a statement of another module may spell a column in its own
+    // case). A name that is not a column of the table throws DbError.
+    void bindColumns(Statement &st, const QStringList &names) const
+    {
+        for (const QString &name : names)
+            bindColumn(st, columnNamed(name), QStringLiteral("a") + name);
+    }
+
+    // Reads the statement's current row into this record, every column by
+    // name as the selects do.
+    void readCurrentRow(const Statement &st)
+    {
+        readRow(st, columnIndexes(st), static_cast<Derived &>(*this));
     }
 
 private:
@@ -212,6 +226,21 @@ private:
                                            QString::fromLocal8Bit(error.what()));
         }
         return false;
+    }
+
+    void bindColumn(Statement &st, const Column<Derived> &column, const QString &parameter) const
+    {
+        std::visit([&](auto member) { st.bind(parameter, self().*member); }, column.field);
+    }
+
+    static const Column<Derived> &columnNamed(const QString &name)
+    {
+        const auto &d = Derived::description();
+        for (const Column<Derived> &column : d.columns) {
+            if (column.name.compare(name, Qt::CaseInsensitive) == 0)
+                return column;
+        }
+        throw DbError(QStringLiteral("Brak kolumny %1 w tabeli %2").arg(name, d.info.table));
     }
 
     void bindKey(Statement &st) const

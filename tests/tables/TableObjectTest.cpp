@@ -1,3 +1,4 @@
+#include "DbError.h"
 #include "ScriptedMessages.h"
 #include "TableObjects.h"
 #include "TestDatabase.h"
@@ -211,4 +212,27 @@ TEST(TableObject, UpdateAndDeleteGoByTheKey)
     ASSERT_EQ(left.size(), 1u);
     EXPECT_EQ(left.front().LOGIN, QStringLiteral("anowak"));
     EXPECT_EQ(left.front().NAZWISKO, QStringLiteral("Nowak"));
+}
+
+TEST(TableObject, AStatementOfItsOwnBindsNamedColumnsAndReadsRowsAsTheSelectsDo)
+{
+    TestDatabase db;
+    TTowaryObj goods(db.connection());
+    goods.ID_ZLECENIA = 8;
+    goods.NAZWA = QStringLiteral("Jabłka");
+    Statement insert(db.connection());
+    insert.add(QStringLiteral("INSERT INTO TOWARY (ID_ZLECENIA, nazwa)"));
+    insert.add(QStringLiteral("VALUES (:aID_ZLECENIA, :anazwa)"));
+    goods.bindColumns(insert, {QStringLiteral("ID_ZLECENIA"), QStringLiteral("nazwa")});
+    insert.exec();
+    EXPECT_THROW(goods.bindColumns(insert, {QStringLiteral("NIEMA")}), DbError);
+
+    Statement select(db.connection());
+    select.add(QStringLiteral("SELECT * FROM TOWARY"));
+    select.exec();
+    TTowaryObj read(db.connection());
+    read.readCurrentRow(select);
+    EXPECT_NE(read.ID_TOWARU, 0);
+    EXPECT_EQ(read.ID_ZLECENIA, 8);
+    EXPECT_EQ(read.NAZWA, QStringLiteral("Jabłka"));
 }
