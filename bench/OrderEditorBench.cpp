@@ -9,6 +9,7 @@
 #include "TBitBtn.h"
 #include "TfrmAddEditZlecenia_Przych.h"
 #include "TfrmTowaryNaZleceniu.h"
+#include "Transaction.h"
 
 #include <QElapsedTimer>
 #include <QTemporaryDir>
@@ -44,7 +45,8 @@ void benchOrderEditor(BenchTimer &timer, int orders)
     DemoSeeder(connection, options).seed();
     timer.note(QStringLiteral("seed demo company, %1 orders").arg(orders),
                double(seeding.elapsed()));
-    setSession(1, &connection, nullptr);
+    Transaction transaction(connection);
+    setSession(1, &connection, &transaction);
     const int order = newestOrder(connection);
 
     timer.measure(QStringLiteral("order editor: open to add"), [] {

@@ -411,9 +411,7 @@ double TfrmAddEditZlecenia_Przych::carrierCost() const
 void TfrmAddEditZlecenia_Przych::save()
 {
     Connection &connection = m_order.connection();
-    std::optional<TransactionScope> scope;
-    if (session().Transaction)
-        scope.emplace(*session().Transaction);
+    TransactionScope scope(session().transaction());
     m_order.KOSZTRAZEM = carrierCost();
     if (m_order.NUMER <= 0) {
         m_order.NUMER = OrderNumbering::propose(connection, deAwizo->date().year());
@@ -424,8 +422,7 @@ void TfrmAddEditZlecenia_Przych::save()
     else
         IncomingOrderStatements::update(connection, m_order);
     rememberRoute();
-    if (scope)
-        scope->commit();
+    scope.commit();
 }
 
 void TfrmAddEditZlecenia_Przych::btnOkClick()

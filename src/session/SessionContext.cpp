@@ -1,5 +1,7 @@
 #include "SessionContext.h"
 
+#include "DbError.h"
+
 SessionContext &session()
 {
     static SessionContext context;
@@ -12,4 +14,11 @@ void setSession(qint32 userId, Connection *database, ::Transaction *transaction)
     context.UserID = userId;
     context.Database = database;
     context.Transaction = transaction;
+}
+
+Transaction &SessionContext::transaction() const
+{
+    if (!Transaction)
+        throw DbError(QStringLiteral("Brak transakcji sesji"));
+    return *Transaction;
 }

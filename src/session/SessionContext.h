@@ -14,6 +14,12 @@ struct SessionContext
     qint32 UserID = 0;
     Connection *Database = nullptr;
     ::Transaction *Transaction = nullptr;
+
+    // The host's transaction. The host hands one to every entry point, and
+    // every program or test that opens the module's forms does the same;
+    // work that must be all-or-nothing runs in a TransactionScope on it.
+    // DbError when none was handed over.
+    ::Transaction &transaction() const;
 };
 
 // The process-wide context of the module.

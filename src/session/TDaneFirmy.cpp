@@ -100,8 +100,6 @@ QString TDaneFirmy::GetLoginName()
 bool TDaneFirmy::WriteHistory(const QVariant &values, int operation, int key) const
 {
     try {
-        if (!m_context.Transaction)
-            throw DbError(QStringLiteral("Brak transakcji sesji"));
         THistoryObj history(database());
         history.USERID = m_context.UserID;
         history.OPERACJA = operation;
@@ -111,7 +109,7 @@ bool TDaneFirmy::WriteHistory(const QVariant &values, int operation, int key) co
         history.COMPNAME = GetComputerName();
         history.COMPUSER = GetLoginName();
 
-        TransactionScope scope(*m_context.Transaction);
+        TransactionScope scope(m_context.transaction());
         if (!history.Insert())
             return false;
         scope.commit();

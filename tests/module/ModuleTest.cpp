@@ -4,13 +4,12 @@
 #include "ScriptedMessages.h"
 #include "ScriptedModalRunner.h"
 #include "SessionContext.h"
+#include "SessionFixture.h"
 #include "TBitBtn.h"
 #include "TDateEdit.h"
-#include "TestDatabase.h"
 #include "TframeListView.h"
 #include "TfrmAddEditZlecenia_Przych.h"
 #include "TfrmZlecPrzychodzace.h"
-#include "Transaction.h"
 
 #include <QAction>
 #include <QApplication>
@@ -22,7 +21,7 @@
 
 namespace {
 
-class Module : public testing::Test
+class Module : public SessionFixture
 {
 protected:
     void SetUp() override
@@ -31,10 +30,6 @@ protected:
         options.orders = 10;
         DemoSeeder(db.connection(), options).seed();
     }
-    void TearDown() override { setSession(0, nullptr, nullptr); }
-
-    TestDatabase db;
-    Transaction transaction{db.connection()};
 };
 
 } // namespace

@@ -21,7 +21,6 @@ class Goods : public OrdersFixture
 protected:
     void SetUp() override
     {
-        OrdersFixture::SetUp();
         tonne = addUnit(QStringLiteral("tona"));
         pallet = addUnit(QStringLiteral("paleta"));
         addGoods(OrderKey, QStringLiteral("Jabłka"), 2.5, pallet);

@@ -25,7 +25,6 @@ class OrderEditor : public OrdersFixture
 protected:
     void SetUp() override
     {
-        OrdersFixture::SetUp();
         client = addContractor(QStringLiteral("Agromax"));
         carrier = addContractor(QStringLiteral("Spedpol"));
         own = addContractor(QStringLiteral("Trans-Wisła"));

@@ -28,7 +28,6 @@ class OrderPricing : public OrdersFixture
 protected:
     void SetUp() override
     {
-        OrdersFixture::SetUp();
         a = addCity(QStringLiteral("Białystok"));
         b = addCity(QStringLiteral("Warszawa"));
         c = addCity(QStringLiteral("Kraków"));

@@ -1,22 +1,11 @@
 #include "OrdersFixture.h"
 
 #include "IncomingOrderStatements.h"
-#include "SessionContext.h"
 #include "Statement.h"
 #include "TKontrahenciObj.h"
 #include "TMiaryObj.h"
 #include "TMiastaObj.h"
 #include "TTaryfyprzewoznikaObj.h"
-
-void OrdersFixture::SetUp()
-{
-    setSession(SessionUser, &db.connection(), nullptr);
-}
-
-void OrdersFixture::TearDown()
-{
-    setSession(0, nullptr, nullptr);
-}
 
 int OrdersFixture::lastKey(const QString &table, const QString &key)
 {

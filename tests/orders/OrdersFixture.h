@@ -1,7 +1,7 @@
 #pragma once
 
+#include "SessionFixture.h"
 #include "TZlecenia_przychObj.h"
-#include "TestDatabase.h"
 
 #include <QComboBox>
 #include <QString>
@@ -10,13 +10,12 @@
 
 // A fresh database set as the session's, with helpers that add the few
 // records an order dialog needs.
-class OrdersFixture : public testing::Test
+class OrdersFixture : public SessionFixture
 {
 protected:
     static constexpr int SessionUser = 7;
 
-    void SetUp() override;
-    void TearDown() override;
+    OrdersFixture() : SessionFixture(SessionUser) {}
 
     int addContractor(const QString &shortName);
     int addCity(const QString &name);
@@ -32,6 +31,4 @@ protected:
     // Chooses the item carrying the key as a user does, so that the
     // list's "activated" reactions run.
     static void choose(QComboBox *combo, int key);
-
-    TestDatabase db;
 };

@@ -16,7 +16,6 @@ class Places : public OrdersFixture
 protected:
     void SetUp() override
     {
-        OrdersFixture::SetUp();
         client = addContractor(QStringLiteral("Agromax"));
         TZlecenia_przychObj order(db.connection());
         order.IDKONTRAHENTA = client;

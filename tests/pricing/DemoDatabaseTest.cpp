@@ -3,24 +3,22 @@
 #include "PriceLookup.h"
 #include "ScriptedMessages.h"
 #include "ScriptedModalRunner.h"
-#include "SessionContext.h"
+#include "SessionFixture.h"
 #include "TBitBtn.h"
 #include "TListView.h"
-#include "TestDatabase.h"
 #include "TframeListView.h"
 #include "TfrmCennikMenu.h"
 #include "TfrmCennikWierszeKolumny.h"
 #include "TfrmCenniki.h"
 #include "TfrmMiasta.h"
 #include "TfrmStawkiTaryfowe.h"
-#include "Transaction.h"
 
 #include <QComboBox>
 
 #include <gtest/gtest.h>
 
 // The four registers on the demo company the host program seeds.
-class OnTheDemoDatabase : public testing::Test
+class OnTheDemoDatabase : public SessionFixture
 {
 protected:
     void SetUp() override
@@ -28,12 +26,7 @@ protected:
         DemoSeeder::Options options;
         options.orders = 20;
         DemoSeeder(db.connection(), options).seed();
-        setSession(1, &db.connection(), &transaction);
     }
-    void TearDown() override { setSession(0, nullptr, nullptr); }
-
-    TestDatabase db;
-    Transaction transaction{db.connection()};
 };
 
 TEST_F(OnTheDemoDatabase, TheMenuOpensTheGridWhoseCellsTheLookUpFinds)

@@ -1,15 +1,13 @@
 #include "PricingData.h"
 #include "ScriptedMessages.h"
 #include "ScriptedModalRunner.h"
-#include "SessionContext.h"
+#include "SessionFixture.h"
 #include "TBitBtn.h"
 #include "TLimitedSpinEdit.h"
 #include "TListView.h"
-#include "TestDatabase.h"
 #include "TframeListView.h"
 #include "TfrmAddEditMiasta.h"
 #include "TfrmMiasta.h"
-#include "Transaction.h"
 
 #include <QComboBox>
 #include <QLineEdit>
@@ -20,12 +18,11 @@ namespace {
 
 using namespace PricingData;
 
-class DistanceRegister : public testing::Test
+class DistanceRegister : public SessionFixture
 {
 protected:
     void SetUp() override
     {
-        setSession(1, &db.connection(), &transaction);
         Connection &c = db.connection();
         krakow = addCity(c, QStringLiteral("Kraków"), QStringLiteral("30-001"));
         lodz = addCity(c, QStringLiteral("Łódź"), QStringLiteral("90-001"));
@@ -36,7 +33,6 @@ protected:
         setting(QStringLiteral("MiastoDomowe"), QStringLiteral("'S', NULL, 'ŁÓDŹ'"));
         db.exec(QStringLiteral("INSERT INTO FORMS (ID_FORMATKI, NAZWA) VALUES (41, 'TfrmMiasta')"));
     }
-    void TearDown() override { setSession(0, nullptr, nullptr); }
 
     void setting(const QString &name, const QString &values)
     {
@@ -59,8 +55,6 @@ protected:
         form.CBMiasta->setCurrentIndex(form.CBMiasta->findText(city));
     }
 
-    TestDatabase db;
-    Transaction transaction{db.connection()};
     int krakow = 0, lodz = 0, gdansk = 0, toKrakow = 0, toGdansk = 0;
 };
 

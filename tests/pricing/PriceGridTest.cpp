@@ -1,11 +1,10 @@
 #include "PricingData.h"
 #include "ScriptedMessages.h"
 #include "ScriptedModalRunner.h"
-#include "SessionContext.h"
+#include "SessionFixture.h"
 #include "TBitBtn.h"
 #include "TLimitedFloatEdit.h"
 #include "TListView.h"
-#include "TestDatabase.h"
 #include "TframeListView.h"
 #include "TfrmAddEditCenniki.h"
 #include "TfrmCennikMenu.h"
@@ -24,11 +23,9 @@ namespace {
 
 using namespace PricingData;
 
-class PriceGrid : public testing::Test
+class PriceGrid : public SessionFixture
 {
 protected:
-    void SetUp() override { setSession(1, &db.connection(), nullptr); }
-    void TearDown() override { setSession(0, nullptr, nullptr); }
 
     // Two kilometre and two kilogram ranges, the main price list with one
     // cell, one open and one blocked group with a cell each.
@@ -73,7 +70,6 @@ protected:
         return db.count(QStringLiteral("CENNIKI_KRAJ"), where);
     }
 
-    TestDatabase db;
     int near = 0, far = 0, light = 0, heavy = 0, open = 0, blocked = 0;
 };
 

@@ -1,11 +1,10 @@
 #include "PricingData.h"
 #include "ScriptedMessages.h"
 #include "ScriptedModalRunner.h"
-#include "SessionContext.h"
+#include "SessionFixture.h"
 #include "TBitBtn.h"
 #include "TLimitedSpinEdit.h"
 #include "TListView.h"
-#include "TestDatabase.h"
 #include "TfrmAddEditCennikWierszeKolumny.h"
 #include "TfrmAddEditGrupy.h"
 #include "TfrmCennikWierszeKolumny.h"
@@ -23,11 +22,9 @@ namespace {
 
 using namespace PricingData;
 
-class RangeEditor : public testing::Test
+class RangeEditor : public SessionFixture
 {
 protected:
-    void SetUp() override { setSession(1, &db.connection(), nullptr); }
-    void TearDown() override { setSession(0, nullptr, nullptr); }
 
     std::unique_ptr<TfrmCennikWierszeKolumny> open()
     {
@@ -74,8 +71,6 @@ protected:
                 list.setSelectedIndex(row);
         }
     }
-
-    TestDatabase db;
 };
 
 const QStringList ThreeRanges{"0-50", "51-100", "101-200"};

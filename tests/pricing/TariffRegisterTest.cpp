@@ -1,13 +1,12 @@
 #include "PricingData.h"
 #include "ScriptedMessages.h"
 #include "ScriptedModalRunner.h"
-#include "SessionContext.h"
+#include "SessionFixture.h"
 #include "TBitBtn.h"
 #include "TLimitedFloatEdit.h"
 #include "TLimitedSpinEdit.h"
 #include "TListView.h"
 #include "TTaryfyprzewoznikaObj.h"
-#include "TestDatabase.h"
 #include "TframeListView.h"
 #include "TfrmAddEditStawkiTaryfowe.h"
 #include "TfrmStawkiTaryfowe.h"
@@ -22,12 +21,11 @@ namespace {
 
 using namespace PricingData;
 
-class TariffRegister : public testing::Test
+class TariffRegister : public SessionFixture
 {
 protected:
     void SetUp() override
     {
-        setSession(1, &db.connection(), nullptr);
         Connection &c = db.connection();
         carrier = addTariff(c, QStringLiteral("Podwykonawca"), 0, 10.0, 2.7, 70.0, 35.0);
         own = addTariff(c, QStringLiteral("Krajowa standard"), 1, 12.5, 3.2, 85.0, 45.0);
@@ -36,7 +34,6 @@ protected:
                                "NUMER_STAWKI = 3 WHERE ID_TARYFYPRZEWOZNIKA = %1")
                     .arg(express));
     }
-    void TearDown() override { setSession(0, nullptr, nullptr); }
 
     std::unique_ptr<TfrmStawkiTaryfowe> open(int current, int kind)
     {
@@ -58,7 +55,6 @@ protected:
                              .arg(key));
     }
 
-    TestDatabase db;
     int carrier = 0, own = 0, express = 0;
 };
 

@@ -2,9 +2,8 @@
 #include "Privileges.h"
 #include "ScriptedMessages.h"
 #include "SessionContext.h"
+#include "SessionFixture.h"
 #include "TDaneFirmy.h"
-#include "TestDatabase.h"
-#include "Transaction.h"
 
 #include <QWidget>
 
@@ -28,10 +27,10 @@ class TfrmBezUprawnien : public QWidget
 
 namespace {
 
-class PrivilegesTest : public testing::Test
+class PrivilegesTest : public SessionFixture
 {
 protected:
-    PrivilegesTest()
+    PrivilegesTest() : SessionFixture(5)
     {
         zleceniaID = addForm(QStringLiteral("TfrmZlecPrzychodzace"));
         // Run 1, add 256, edit 255, delete 0.
@@ -41,10 +40,7 @@ protected:
         // Stored upper-cased: differs from the class name in letter case only.
         miastaID = addForm(QStringLiteral("TFRMMIASTA"));
         grant(5, miastaID, QStringLiteral("1, 1, 1, 1"));
-        setSession(5, &db.connection(), &transaction);
     }
-
-    ~PrivilegesTest() override { setSession(0, nullptr, nullptr); }
 
     int addForm(const QString &name)
     {
@@ -61,8 +57,6 @@ protected:
                     .arg(flags));
     }
 
-    TestDatabase db;
-    Transaction transaction{db.connection()};
     int zleceniaID = 0;
     int miastaID = 0;
     TfrmZlecPrzychodzace zlecenia;
@@ -133,7 +127,7 @@ TEST_F(PrivilegesTest, RequireShowsTheRefusalForTheSessionUser)
     EXPECT_EQ(box.buttons, MessageService::Buttons(MessageService::Ok));
 
     // The session's user decides: user 6 may delete, user 5 may not.
-    setSession(6, &db.connection(), &transaction);
+    setUser(6);
     EXPECT_TRUE(Privileges::require(Privileges::Delete, &zlecenia));
 }
 

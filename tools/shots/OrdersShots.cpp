@@ -12,6 +12,7 @@
 #include "TfrmAdresy.h"
 #include "TfrmDataWzorca.h"
 #include "TfrmTowaryNaZleceniu.h"
+#include "Transaction.h"
 
 #include <QTemporaryDir>
 
@@ -39,11 +40,12 @@ public:
             Schema::createDatabase(path);
             m_connection = std::make_unique<Connection>();
             m_connection->open(path);
+            m_transaction = std::make_unique<Transaction>(*m_connection);
             DemoSeeder::Options options;
             options.orders = 40;
             DemoSeeder(*m_connection, options).seed();
         }
-        setSession(1, m_connection.get(), nullptr);
+        setSession(1, m_connection.get(), m_transaction.get());
         return *m_connection;
     }
 
@@ -61,6 +63,7 @@ public:
 private:
     QTemporaryDir m_dir;
     std::unique_ptr<Connection> m_connection;
+    std::unique_ptr<Transaction> m_transaction;
 };
 
 } // namespace

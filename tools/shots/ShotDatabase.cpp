@@ -29,7 +29,7 @@ ShotDatabase::ShotDatabase()
     const QString path = m_dir.filePath(QStringLiteral("shots.fdb"));
     Schema::createDatabase(path);
     m_connection.open(path);
-    setSession(1, &m_connection, nullptr);
+    setSession(1, &m_connection, &m_transaction);
 
     for (const DemoUser &demo : DemoUsers) {
         TUsersObj user(m_connection);

@@ -1,6 +1,7 @@
 #pragma once
 
 #include "Connection.h"
+#include "Transaction.h"
 
 #include <QTemporaryDir>
 
@@ -19,5 +20,6 @@ public:
 private:
     QTemporaryDir m_dir;
     Connection m_connection;
+    Transaction m_transaction{m_connection};
     int m_orderKey = 0;
 };

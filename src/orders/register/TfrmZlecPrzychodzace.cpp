@@ -12,7 +12,6 @@
 #include "TImageList.h"
 #include "TRadioGroup.h"
 #include "TframeListView.h"
-#include "Transaction.h"
 
 #include <QAction>
 #include <QBoxLayout>

@@ -3,8 +3,6 @@
 #include "OrderListQuery.h"
 #include "TfrmRODefault.h"
 
-#include <memory>
-
 class QAction;
 class QComboBox;
 class QDateEdit;
@@ -13,7 +11,6 @@ class QMenu;
 class TBitBtn;
 class TRadioGroup;
 class TframeListView;
-class Transaction;
 
 // The module's main window: the register of incoming orders. It lists the
 // orders of VZLECENIA_PRZYCH loaded within the date range (and every
@@ -111,11 +108,7 @@ private:
     int runEditor(int orderKey, int mode);
     // Reloads the list and selects the order, scrolled into view.
     void reloadAndSelect(int orderKey);
-    // The session's transaction; a form run without one brackets its
-    // all-or-nothing work with a transaction of its own on the connection.
-    Transaction &transaction();
 
     bool m_kartaZeZlecen = false;
-    std::unique_ptr<Transaction> m_ownTransaction;
     double m_total = 0.0;
 };

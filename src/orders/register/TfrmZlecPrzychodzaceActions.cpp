@@ -12,7 +12,6 @@
 #include "TframeListView.h"
 #include "TfrmAdvancedEdit.h"
 #include "TfrmMiasta.h"
-#include "Transaction.h"
 
 #include <QDir>
 
@@ -28,15 +27,6 @@ QString exportFileName()
 }
 
 } // namespace
-
-Transaction &TfrmZlecPrzychodzace::transaction()
-{
-    if (::Transaction *shared = session().Transaction)
-        return *shared;
-    if (!m_ownTransaction)
-        m_ownTransaction = std::make_unique<::Transaction>(*session().Database);
-    return *m_ownTransaction;
-}
 
 void TfrmZlecPrzychodzace::reloadAndSelect(int orderKey)
 {

@@ -56,7 +56,7 @@ void TfrmZlecPrzychodzace::acPowielExecute()
         return;
     int copy = 0;
     reportFailures(QStringLiteral("Nie można powielić zlecenia"), [&] {
-        copy = copyOrderWithPlacesAndGoods(*session().Database, transaction(), source);
+        copy = copyOrderWithPlacesAndGoods(*session().Database, session().transaction(), source);
     });
     if (copy == 0)
         return;
@@ -80,7 +80,7 @@ void TfrmZlecPrzychodzace::acWzorExecute()
                                   QStringLiteral("Są już wysyłki na wybrany dzień. "
                                                  "Dodać wysyłki wzorcowe?")))
             return;
-        OrderTemplates::insertForDay(database, transaction(), day);
+        OrderTemplates::insertForDay(database, session().transaction(), day);
     });
 }
 

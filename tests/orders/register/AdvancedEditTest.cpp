@@ -1,8 +1,7 @@
 #include "ScriptedMessages.h"
 #include "ScriptedModalRunner.h"
-#include "SessionContext.h"
+#include "SessionFixture.h"
 #include "TBitBtn.h"
-#include "TestDatabase.h"
 #include "TfrmAdvancedEdit.h"
 
 #include <QComboBox>
@@ -13,12 +12,11 @@
 
 namespace {
 
-class AdvancedEdit : public testing::Test
+class AdvancedEdit : public SessionFixture
 {
 protected:
     void SetUp() override
     {
-        setSession(1, &db.connection(), nullptr);
         kowalski = addUser("jkowalski", "Jan", "Kowalski");
         nowak = addUser("anowak", "Anna", "Nowak");
         adamczyk = addUser("padamczyk", "Piotr", "Adamczyk");
@@ -29,8 +27,6 @@ protected:
         order.Insert();
         orderKey = order.GetMaxId();
     }
-
-    void TearDown() override { setSession(0, nullptr, nullptr); }
 
     int addUser(const char *login, const char *firstName, const char *surname)
     {
@@ -53,7 +49,6 @@ protected:
             .toInt();
     }
 
-    TestDatabase db;
     int kowalski = 0;
     int nowak = 0;
     int adamczyk = 0;

@@ -1,7 +1,6 @@
 #include "RegisterFixture.h"
 
 #include "DemoSeeder.h"
-#include "SessionContext.h"
 #include "TMiejsca_zlecObj.h"
 #include "TframeListView.h"
 
@@ -12,17 +11,6 @@ void RegisterFixture::SetUp()
     DemoSeeder::Options options;
     options.orders = DemoOrders;
     DemoSeeder(db.connection(), options).seed();
-    setUser(1);
-}
-
-void RegisterFixture::TearDown()
-{
-    setSession(0, nullptr, nullptr);
-}
-
-void RegisterFixture::setUser(int userId)
-{
-    setSession(userId, &db.connection(), &transaction);
 }
 
 std::unique_ptr<TfrmZlecPrzychodzace> RegisterFixture::openRegister()

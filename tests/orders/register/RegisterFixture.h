@@ -1,9 +1,8 @@
 #pragma once
 
+#include "SessionFixture.h"
 #include "TZlecenia_przychObj.h"
-#include "TestDatabase.h"
 #include "TfrmZlecPrzychodzace.h"
-#include "Transaction.h"
 
 #include <gtest/gtest.h>
 
@@ -12,16 +11,14 @@
 
 // A seeded demo company (users 1 all rights, 2 no delete, 3 run only) with
 // the session set to user 1 on the test's connection and transaction.
-class RegisterFixture : public testing::Test
+class RegisterFixture : public SessionFixture
 {
 protected:
     static constexpr int DemoOrders = 20;
 
     void SetUp() override;
-    void TearDown() override;
 
     std::unique_ptr<TfrmZlecPrzychodzace> openRegister();
-    void setUser(int userId);
 
     // Inserts an order dated today (unless the change says otherwise) and
     // returns its key.
@@ -40,7 +37,4 @@ protected:
     static QString cell(const TfrmZlecPrzychodzace &form, int orderKey, int column);
     static bool listed(const TfrmZlecPrzychodzace &form, int orderKey);
     static void select(TfrmZlecPrzychodzace &form, int orderKey);
-
-    TestDatabase db;
-    Transaction transaction{db.connection()};
 };
