@@ -21,8 +21,8 @@ class Goods : public OrdersFixture
 protected:
     void SetUp() override
     {
-        tonne = addUnit(QStringLiteral("tona"));
-        pallet = addUnit(QStringLiteral("paleta"));
+        tonne = TestData::addUnit(db.connection(), QStringLiteral("tona"));
+        pallet = TestData::addUnit(db.connection(), QStringLiteral("paleta"));
         addGoods(OrderKey, QStringLiteral("Jabłka"), 2.5, pallet);
         addGoods(OrderKey, QStringLiteral("Cement"), 24.0, tonne);
         addGoods(OtherOrder, QStringLiteral("Węgiel"), 20.0, tonne);

@@ -18,6 +18,7 @@
 
 namespace {
 
+using namespace TestData;
 using Editor = TfrmAddEditZlecenia_Przych;
 
 class OrderEditor : public OrdersFixture
@@ -25,14 +26,15 @@ class OrderEditor : public OrdersFixture
 protected:
     void SetUp() override
     {
-        client = addContractor(QStringLiteral("Agromax"));
-        carrier = addContractor(QStringLiteral("Spedpol"));
-        own = addContractor(QStringLiteral("Trans-Wisła"));
-        setOwner(own);
-        lodz = addCity(QStringLiteral("Łódź"));
-        lublin = addCity(QStringLiteral("Lublin"));
-        zakopane = addCity(QStringLiteral("Zakopane"));
-        addFilter(QStringLiteral("Jan Wiśniewski"));
+        Connection &c = db.connection();
+        client = addContractor(c, QStringLiteral("Agromax"));
+        carrier = addContractor(c, QStringLiteral("Spedpol"));
+        own = addContractor(c, QStringLiteral("Trans-Wisła"));
+        addSetting(c, {.name = QStringLiteral("IDWłaściciela"), .number = own});
+        lodz = addCity(c, {.name = QStringLiteral("Łódź")});
+        lublin = addCity(c, {.name = QStringLiteral("Lublin")});
+        zakopane = addCity(c, {.name = QStringLiteral("Zakopane")});
+        addFilter(c, QStringLiteral("Jan Wiśniewski"));
     }
 
     // Opens the editor modally; the handler plays the user.
@@ -205,7 +207,8 @@ TEST_F(OrderEditor, TheOwnCarrierBoxTicksExactlyForTheCompanysOwnContractor)
 
 TEST_F(OrderEditor, AnEditRoundTripKeepsWhatTheEditorDoesNotShow)
 {
-    const int tariff = addTariff(QStringLiteral("Chłodnia 24t"), 0, 2.0, 0.0, 0.0, 0.0);
+    const int tariff = addTariff(db.connection(),
+                                 {.name = QStringLiteral("Chłodnia 24t"), .perLoadedKm = 2.0});
     TZlecenia_przychObj order(db.connection());
     order.NUMER = 77;
     order.DATA = DateTime::fromDate(QDate(2024, 5, 6));
@@ -330,7 +333,8 @@ TEST_F(OrderEditor, CancelWritesNothing)
 
 TEST_F(OrderEditor, AgreedAfterTariffClearsTheTariffAndKeepsTheRates)
 {
-    const int tariff = addTariff(QStringLiteral("Własna krajowa"), 1, 3.0, 0.0, 0.0, 0.0);
+    const int tariff = addTariff(
+        db.connection(), {.name = QStringLiteral("Własna krajowa"), .own = 1, .perLoadedKm = 3.0});
     TZlecenia_przychObj order(db.connection());
     order.IDTARYFY = tariff;
     order.KM_LADOWNE = 10;

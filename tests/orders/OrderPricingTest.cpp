@@ -21,6 +21,7 @@
 
 namespace {
 
+using namespace TestData;
 using Editor = TfrmAddEditZlecenia_Przych;
 
 class OrderPricing : public OrdersFixture
@@ -28,10 +29,10 @@ class OrderPricing : public OrdersFixture
 protected:
     void SetUp() override
     {
-        a = addCity(QStringLiteral("Białystok"));
-        b = addCity(QStringLiteral("Warszawa"));
-        c = addCity(QStringLiteral("Kraków"));
-        d = addCity(QStringLiteral("Łódź"));
+        a = addCity(db.connection(), {.name = QStringLiteral("Białystok")});
+        b = addCity(db.connection(), {.name = QStringLiteral("Warszawa")});
+        c = addCity(db.connection(), {.name = QStringLiteral("Kraków")});
+        d = addCity(db.connection(), {.name = QStringLiteral("Łódź")});
     }
 
     std::unique_ptr<Editor> newOrder()
@@ -99,7 +100,8 @@ TEST_F(OrderPricing, ARouteSavedWithItsDistanceIsFoundBackwardsButNotThroughAnot
 
 TEST_F(OrderPricing, TheRevenueTariffComesFromOwnTariffsAndBringsItsFourRates)
 {
-    const int own = addTariff(QStringLiteral("Krajowa 2024"), 1, 1.235, 40.0, 0.0, 0.0);
+    const int own = addTariff(db.connection(), {.name = QStringLiteral("Krajowa 2024"), .own = 1,
+                                                .perTonne = 40.0, .perLoadedKm = 1.235});
     auto e = newOrder();
     e->rbStawkaTaryfowa->click();
     e->edStawkaIloscGodzin->setValue(99.0);
@@ -131,7 +133,8 @@ TEST_F(OrderPricing, TheRevenueTariffComesFromOwnTariffsAndBringsItsFourRates)
 
 TEST_F(OrderPricing, TheCostTariffKeepsOnlyKeyAndNameAndPricesTheCarrierCost)
 {
-    const int carriers = addTariff(QStringLiteral("Spedpol standard"), 0, 2.0, 0.0, 0.0, 10.0);
+    const int carriers = addTariff(db.connection(), {.name = QStringLiteral("Spedpol standard"),
+                                                     .perLoadedKm = 2.0, .perPallet = 10.0});
     auto e = newOrder();
     e->seKMLadownych->setValue(100);
     e->seIloscPalet->setValue(3);
@@ -151,7 +154,8 @@ TEST_F(OrderPricing, TheCostTariffKeepsOnlyKeyAndNameAndPricesTheCarrierCost)
 
 TEST_F(OrderPricing, CancellingTheTariffRegisterChangesNothing)
 {
-    addTariff(QStringLiteral("Krajowa"), 1, 5.0, 5.0, 5.0, 5.0);
+    addTariff(db.connection(), {.name = QStringLiteral("Krajowa"), .own = 1, .perTonne = 5.0,
+                                .perLoadedKm = 5.0, .perHour = 5.0, .perPallet = 5.0});
     auto e = newOrder();
     e->rbStawkaTaryfowa->click();
     scriptedModalRunner().expect<TfrmStawkiTaryfowe>([](TfrmStawkiTaryfowe &f) {
@@ -165,20 +169,13 @@ TEST_F(OrderPricing, CancellingTheTariffRegisterChangesNothing)
 
 TEST_F(OrderPricing, APriceListEntryFillsTheAgreedAmountFromTheLookUp)
 {
-    db.exec(QStringLiteral(
-        "INSERT INTO CENNIKI_KRAJ_WIERSZE (ZAKRES_WOD, ZAKRES_WDO) VALUES (0, 100)"));
-    db.exec(QStringLiteral(
-        "INSERT INTO CENNIKI_KRAJ_KOLUMNY (ZAKRES_KOD, ZAKRES_KDO) VALUES (0, 24000)"));
-    db.exec(QStringLiteral(
-        "INSERT INTO CENNIKI_KRAJ_GRUPY (NAZWA, BLOKADA) VALUES ('Kluczowi', 0)"));
-    db.exec(QStringLiteral("INSERT INTO CENNIKI_KRAJ_GRUPY (NAZWA, BLOKADA) VALUES ('Stary', 1)"));
-    const int key = lastKey("CENNIKI_KRAJ_GRUPY", "ID_CENNIKI_KRAJ_GRUPY") - 1;
-    const int row = lastKey("CENNIKI_KRAJ_WIERSZE", "ID_CENNIKI_KRAJ_WIERSZE");
-    const int column = lastKey("CENNIKI_KRAJ_KOLUMNY", "ID_CENNIKI_KRAJ_KOLUMNY");
-    db.exec(QStringLiteral("INSERT INTO CENNIKI_KRAJ (GRUPA, KWOTA, KILOGRAMY, KILOMETRY) "
-                           "VALUES (0, 850, %1, %2)").arg(column).arg(row));
-    db.exec(QStringLiteral("INSERT INTO CENNIKI_KRAJ (GRUPA, KWOTA, KILOGRAMY, KILOMETRY) "
-                           "VALUES (%3, 700, %1, %2)").arg(column).arg(row).arg(key));
+    Connection &c = db.connection();
+    const int row = addKilometreRange(c, 0, 100);
+    const int column = addKilogramRange(c, 0, 24000);
+    const int key = addGroup(c, QStringLiteral("Kluczowi"));
+    addGroup(c, QStringLiteral("Stary"), true);
+    addCell(c, {.group = 0, .row = row, .column = column, .amount = 850});
+    addCell(c, {.group = key, .row = row, .column = column, .amount = 700});
 
     auto e = newOrder();
     const QList<QAction *> entries = e->pmCennik->actions();
@@ -208,7 +205,7 @@ TEST_F(OrderPricing, TheCityButtonOpensTheDistanceRegisterAndKeepsTheChosenCitie
     auto e = newOrder();
     choose(e->cbMiastoOd, d);
     scriptedModalRunner().expect<TfrmMiasta>([&](TfrmMiasta &f) {
-        addCity(QStringLiteral("Gdańsk"));
+        addCity(db.connection(), {.name = QStringLiteral("Gdańsk")});
         return f.result() == 0 ? 2 : f.result();
     });
     e->btnMiastoOd->click();

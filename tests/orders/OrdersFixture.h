@@ -2,14 +2,14 @@
 
 #include "SessionFixture.h"
 #include "TZlecenia_przychObj.h"
+#include "TestData.h"
 
 #include <QComboBox>
-#include <QString>
 
 #include <gtest/gtest.h>
 
-// A fresh database set as the session's, with helpers that add the few
-// records an order dialog needs.
+// A fresh database set as the session's, for the order dialogs; the rows
+// they need come from TestData.
 class OrdersFixture : public SessionFixture
 {
 protected:
@@ -17,14 +17,6 @@ protected:
 
     OrdersFixture() : SessionFixture(SessionUser) {}
 
-    int addContractor(const QString &shortName);
-    int addCity(const QString &name);
-    int addTariff(const QString &name, int own, double perLoadedKm, double perTonne,
-                  double perHour, double perPallet);
-    int addUnit(const QString &name);
-    void setOwner(int contractorKey);
-    void addFilter(const QString &text);
-    int lastKey(const QString &table, const QString &key);
     // The order inserted last, read back with every column.
     TZlecenia_przychObj lastOrder();
 

@@ -16,7 +16,7 @@ class Places : public OrdersFixture
 protected:
     void SetUp() override
     {
-        client = addContractor(QStringLiteral("Agromax"));
+        client = TestData::addContractor(db.connection(), QStringLiteral("Agromax"));
         TZlecenia_przychObj order(db.connection());
         order.IDKONTRAHENTA = client;
         order.Insert();

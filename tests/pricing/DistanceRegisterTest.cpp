@@ -1,10 +1,10 @@
-#include "PricingData.h"
 #include "ScriptedMessages.h"
 #include "ScriptedModalRunner.h"
 #include "SessionFixture.h"
 #include "TBitBtn.h"
 #include "TLimitedSpinEdit.h"
 #include "TListView.h"
+#include "TestData.h"
 #include "TframeListView.h"
 #include "TfrmAddEditMiasta.h"
 #include "TfrmMiasta.h"
@@ -16,7 +16,7 @@
 
 namespace {
 
-using namespace PricingData;
+using namespace TestData;
 
 class DistanceRegister : public SessionFixture
 {
@@ -24,22 +24,20 @@ protected:
     void SetUp() override
     {
         Connection &c = db.connection();
-        krakow = addCity(c, QStringLiteral("Kraków"), QStringLiteral("30-001"));
-        lodz = addCity(c, QStringLiteral("Łódź"), QStringLiteral("90-001"));
-        gdansk = addCity(c, QStringLiteral("Gdańsk"), QStringLiteral("80-001"));
-        toKrakow = addRoute(c, lodz, 0, krakow, 270);
-        toGdansk = addRoute(c, lodz, 0, gdansk, 340);
-        addRoute(c, krakow, lodz, gdansk, 610);
-        setting(QStringLiteral("MiastoDomowe"), QStringLiteral("'S', NULL, 'ŁÓDŹ'"));
+        krakow = addCity(c, {.name = QStringLiteral("Kraków"),
+                             .postcode = QStringLiteral("30-001")});
+        lodz = addCity(c, {.name = QStringLiteral("Łódź"),
+                           .postcode = QStringLiteral("90-001")});
+        gdansk = addCity(c, {.name = QStringLiteral("Gdańsk"),
+                             .postcode = QStringLiteral("80-001")});
+        toKrakow = addRoute(c, {.from = lodz, .to = krakow, .kilometres = 270});
+        toGdansk = addRoute(c, {.from = lodz, .to = gdansk, .kilometres = 340});
+        addRoute(c, {.from = krakow, .via = lodz, .to = gdansk, .kilometres = 610});
+        addSetting(c, {.name = QStringLiteral("MiastoDomowe"), .type = 'S',
+                       .text = QStringLiteral("ŁÓDŹ")});
         db.exec(QStringLiteral("INSERT INTO FORMS (ID_FORMATKI, NAZWA) VALUES (41, 'TfrmMiasta')"));
     }
 
-    void setting(const QString &name, const QString &values)
-    {
-        db.exec(QStringLiteral("INSERT INTO KONFIGURACJA (POLE, TYP, VALUE_INT, VALUE_STRING) "
-                               "VALUES ('%1', %2)")
-                    .arg(name, values));
-    }
     std::unique_ptr<TfrmMiasta> open() { return TfrmRODefault::create<TfrmMiasta>(nullptr); }
     static TListView &list(TfrmMiasta &form) { return *form.frameListView1->lvMain; }
     static QStringList destinations(TfrmMiasta &form)
@@ -120,7 +118,8 @@ TEST_F(DistanceRegister, EditingChangesOnlyTheDistance)
 
 TEST_F(DistanceRegister, DeletingWithTheMonitorFlagWritesTheHistory)
 {
-    setting(QStringLiteral("SystemMonitorDelete"), QStringLiteral("'B', 1, NULL"));
+    addSetting(db.connection(),
+               {.name = QStringLiteral("SystemMonitorDelete"), .type = 'B', .number = 1});
     auto form = open();
     list(*form).setSelectedIndex(list(*form).findByKey(toKrakow));
     scriptedMessages().expect(MessageService::No);
@@ -145,7 +144,8 @@ TEST_F(DistanceRegister, DeletingWithTheMonitorFlagWritesTheHistory)
 
 TEST_F(DistanceRegister, DeletingWithoutTheMonitorFlagWritesNoHistory)
 {
-    setting(QStringLiteral("SystemMonitorDelete"), QStringLiteral("'B', 0, NULL"));
+    addSetting(db.connection(),
+               {.name = QStringLiteral("SystemMonitorDelete"), .type = 'B', .number = 0});
     auto form = open();
     list(*form).setSelectedIndex(list(*form).findByKey(toKrakow));
     scriptedMessages().expect(MessageService::Yes);

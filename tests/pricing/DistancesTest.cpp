@@ -1,12 +1,12 @@
 #include "Distances.h"
-#include "PricingData.h"
+#include "TestData.h"
 #include "TestDatabase.h"
 
 #include <gtest/gtest.h>
 
 namespace {
 
-using namespace PricingData;
+using namespace TestData;
 
 class DistancesTest : public testing::Test
 {
@@ -14,11 +14,11 @@ protected:
     void SetUp() override
     {
         Connection &c = db.connection();
-        lodz = addCity(c, QStringLiteral("Łódź"));
-        warszawa = addCity(c, QStringLiteral("Warszawa"));
-        krakow = addCity(c, QStringLiteral("Kraków"));
-        addRoute(c, lodz, 0, warszawa, 135);
-        addRoute(c, lodz, krakow, warszawa, 560);
+        lodz = addCity(c, {.name = QStringLiteral("Łódź")});
+        warszawa = addCity(c, {.name = QStringLiteral("Warszawa")});
+        krakow = addCity(c, {.name = QStringLiteral("Kraków")});
+        addRoute(c, {.from = lodz, .to = warszawa, .kilometres = 135});
+        addRoute(c, {.from = lodz, .via = krakow, .to = warszawa, .kilometres = 560});
     }
 
     TestDatabase db;

@@ -1,10 +1,10 @@
-#include "PricingData.h"
 #include "ScriptedMessages.h"
 #include "ScriptedModalRunner.h"
 #include "SessionFixture.h"
 #include "TBitBtn.h"
 #include "TLimitedFloatEdit.h"
 #include "TListView.h"
+#include "TestData.h"
 #include "TframeListView.h"
 #include "TfrmAddEditCenniki.h"
 #include "TfrmCennikMenu.h"
@@ -21,7 +21,7 @@
 
 namespace {
 
-using namespace PricingData;
+using namespace TestData;
 
 class PriceGrid : public SessionFixture
 {
@@ -38,9 +38,9 @@ protected:
         heavy = addKilogramRange(c, 1001, 24000);
         open = addGroup(c, QStringLiteral("Klienci kluczowi"));
         blocked = addGroup(c, QStringLiteral("Stary cennik"), true);
-        addCell(c, 0, far, heavy, 1234.5);
-        addCell(c, open, near, light, 99.0);
-        addCell(c, blocked, near, light, 77.0);
+        addCell(c, {.group = 0, .row = far, .column = heavy, .amount = 1234.5});
+        addCell(c, {.group = open, .row = near, .column = light, .amount = 99.0});
+        addCell(c, {.group = blocked, .row = near, .column = light, .amount = 77.0});
     }
 
     std::unique_ptr<TfrmCenniki> openGrid()
@@ -207,7 +207,7 @@ TEST_F(PriceGrid, CancellingTheAmountChangesNothing)
 TEST_F(PriceGrid, CellsOfADeletedRangeAreSkipped)
 {
     seedGrid();
-    addCell(db.connection(), 0, 9999, light, 55.0);
+    addCell(db.connection(), {.group = 0, .row = 9999, .column = light, .amount = 55.0});
     auto grid = openGrid();
     for (int column = 1; column < grid->ColCount(); ++column) {
         for (int row = 1; row < grid->RowCount(); ++row)

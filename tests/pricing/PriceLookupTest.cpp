@@ -1,13 +1,13 @@
 #include "PriceLookup.h"
-#include "PricingData.h"
 #include "ScriptedMessages.h"
+#include "TestData.h"
 #include "TestDatabase.h"
 
 #include <gtest/gtest.h>
 
 namespace {
 
-using namespace PricingData;
+using namespace TestData;
 
 // Three kilometre ranges and two kilogram ranges; the main price list
 // (group 0) and one named group fill every cell with different amounts.
@@ -24,9 +24,9 @@ protected:
         heavy = addKilogramRange(c, 12345, 24000);
         group = addGroup(c, QStringLiteral("Chłodnie"));
         for (int row : {upTo50, upTo100, upTo200}) {
-            addCell(c, 0, row, light, 100.0 * row + 1.0);
-            addCell(c, 0, row, heavy, 100.0 * row + 2.0);
-            addCell(c, group, row, light, 1000.0 * row + 1.0);
+            addCell(c, {.group = 0, .row = row, .column = light, .amount = 100.0 * row + 1});
+            addCell(c, {.group = 0, .row = row, .column = heavy, .amount = 100.0 * row + 2});
+            addCell(c, {.group = group, .row = row, .column = light, .amount = 1000.0 * row + 1});
         }
     }
 

@@ -1,10 +1,10 @@
-#include "PricingData.h"
 #include "ScriptedMessages.h"
 #include "ScriptedModalRunner.h"
 #include "SessionFixture.h"
 #include "TBitBtn.h"
 #include "TLimitedSpinEdit.h"
 #include "TListView.h"
+#include "TestData.h"
 #include "TfrmAddEditCennikWierszeKolumny.h"
 #include "TfrmAddEditGrupy.h"
 #include "TfrmCennikWierszeKolumny.h"
@@ -20,7 +20,7 @@
 
 namespace {
 
-using namespace PricingData;
+using namespace TestData;
 
 class RangeEditor : public SessionFixture
 {
@@ -167,7 +167,7 @@ TEST_F(RangeEditor, ARangeUsedByACellIsNotDeleted)
     addKilometreRange(db.connection(), 51, 100);
     addKilometreRange(db.connection(), 101, 200);
     const int column = addKilogramRange(db.connection(), 0, 1000);
-    addCell(db.connection(), 0, used, column, 120.0);
+    addCell(db.connection(), {.group = 0, .row = used, .column = column, .amount = 120.0});
     auto form = open();
 
     select(*form->lvWiersze, QStringLiteral("50"));
@@ -236,8 +236,10 @@ TEST_F(RangeEditor, GroupsAreAddedAndCorrectedWithTheirBlockedFlag)
 TEST_F(RangeEditor, AUsedGroupIsKeptAnUnusedOneDeletedAfterAsking)
 {
     const int used = addGroup(db.connection(), QStringLiteral("Chłodnie"));
-    addCell(db.connection(), used, addKilometreRange(db.connection(), 0, 50),
-            addKilogramRange(db.connection(), 0, 1000), 300.0);
+    addCell(db.connection(), {.group = used,
+                              .row = addKilometreRange(db.connection(), 0, 50),
+                              .column = addKilogramRange(db.connection(), 0, 1000),
+                              .amount = 300.0});
     addGroup(db.connection(), QStringLiteral("Pusta"));
     auto form = open();
     const auto select = [&](const QString &name) {

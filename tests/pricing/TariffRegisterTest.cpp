@@ -1,4 +1,3 @@
-#include "PricingData.h"
 #include "ScriptedMessages.h"
 #include "ScriptedModalRunner.h"
 #include "SessionFixture.h"
@@ -7,6 +6,7 @@
 #include "TLimitedSpinEdit.h"
 #include "TListView.h"
 #include "TTaryfyprzewoznikaObj.h"
+#include "TestData.h"
 #include "TframeListView.h"
 #include "TfrmAddEditStawkiTaryfowe.h"
 #include "TfrmStawkiTaryfowe.h"
@@ -19,7 +19,7 @@
 
 namespace {
 
-using namespace PricingData;
+using namespace TestData;
 
 class TariffRegister : public SessionFixture
 {
@@ -27,9 +27,12 @@ protected:
     void SetUp() override
     {
         Connection &c = db.connection();
-        carrier = addTariff(c, QStringLiteral("Podwykonawca"), 0, 10.0, 2.7, 70.0, 35.0);
-        own = addTariff(c, QStringLiteral("Krajowa standard"), 1, 12.5, 3.2, 85.0, 45.0);
-        express = addTariff(c, QStringLiteral("Ekspres"), 1, 0.0, 4.4, 120.0, 0.0);
+        carrier = addTariff(c, {.name = QStringLiteral("Podwykonawca"), .perTonne = 10.0,
+                                .perLoadedKm = 2.7, .perHour = 70.0, .perPallet = 35.0});
+        own = addTariff(c, {.name = QStringLiteral("Krajowa standard"), .own = 1, .perTonne = 12.5,
+                            .perLoadedKm = 3.2, .perHour = 85.0, .perPallet = 45.0});
+        express = addTariff(c, {.name = QStringLiteral("Ekspres"), .own = 1, .perLoadedKm = 4.4,
+                                .perHour = 120.0});
         db.exec(QStringLiteral("UPDATE TARYFYPRZEWOZNIKA SET MAGAZYNOWANIE = 35, INNE = 7, "
                                "NUMER_STAWKI = 3 WHERE ID_TARYFYPRZEWOZNIKA = %1")
                     .arg(express));

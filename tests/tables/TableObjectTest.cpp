@@ -1,22 +1,12 @@
 #include "DbError.h"
 #include "ScriptedMessages.h"
 #include "TableObjects.h"
+#include "TestData.h"
 #include "TestDatabase.h"
 
 #include <gtest/gtest.h>
 
-namespace {
-
-void addCity(Connection &connection, const QString &name, const QString &code, int country)
-{
-    TMiastaObj city(connection);
-    city.NAZWA = name;
-    city.KOD = code;
-    city.IDKRAJU = country;
-    city.Insert();
-}
-
-} // namespace
+using TestData::addCity;
 
 TEST(TableObject, KeysAscendWithInsertionAndMaxIdFindsTheNewOne)
 {
@@ -38,7 +28,7 @@ TEST(TableObject, SelectAllKeepsDatabaseOrderOrTheGivenOne)
 {
     TestDatabase db;
     for (const char *name : {"Radom", "Gdańsk", "Łódź", "Kraków"})
-        addCity(db.connection(), QString::fromUtf8(name), QString(), 1);
+        addCity(db.connection(), {.name = QString::fromUtf8(name), .country = 1});
     const TMiastaObj cities(db.connection());
     const auto byKey = cities.SelectAll(QStringLiteral("ID_MIASTA"));
     ASSERT_EQ(byKey.size(), 4u);
@@ -70,7 +60,7 @@ TEST(TableObject, ZeroDatesAreStoredAsNullAndNullReadsAsZero)
 TEST(TableObject, EmptyTextIsStoredAsEmptyNotNull)
 {
     TestDatabase db;
-    addCity(db.connection(), QStringLiteral("Opole"), QString(), 0);
+    addCity(db.connection(), {.name = QStringLiteral("Opole")});
     EXPECT_EQ(db.count(QStringLiteral("MIASTA"), QStringLiteral("KOD = ''")), 1);
 }
 
@@ -132,7 +122,7 @@ TEST(TableObject, SelectWhereOnADateTimeColumn)
 TEST(TableObject, UnbindableColumnTypeFailsWithTheSelectMessage)
 {
     TestDatabase db;
-    addCity(db.connection(), QStringLiteral("Opole"), QString(), 1);
+    addCity(db.connection(), {.name = QStringLiteral("Opole"), .country = 1});
     scriptedMessages().expect();
     // A BIGINT expression is a type the table objects cannot bind.
     const auto rows = TMiastaObj(db.connection())
@@ -166,7 +156,8 @@ TEST(TableObject, SelectDistinctNeverReturnsEmptyTexts)
 {
     TestDatabase db;
     for (const char *code : {"00-950", "", "00-950", "31-000"})
-        addCity(db.connection(), QStringLiteral("x"), QString::fromUtf8(code), 1);
+        addCity(db.connection(),
+                {.name = QStringLiteral("x"), .postcode = QString::fromUtf8(code), .country = 1});
     db.exec(QStringLiteral("INSERT INTO MIASTA (NAZWA, KOD) VALUES ('y', NULL)"));
     QStringList codes = TMiastaObj(db.connection()).SelectDistinct(QStringLiteral("KOD"));
     codes.sort();

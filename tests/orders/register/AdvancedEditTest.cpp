@@ -2,6 +2,7 @@
 #include "ScriptedModalRunner.h"
 #include "SessionFixture.h"
 #include "TBitBtn.h"
+#include "TestData.h"
 #include "TfrmAdvancedEdit.h"
 
 #include <QComboBox>
@@ -17,9 +18,11 @@ class AdvancedEdit : public SessionFixture
 protected:
     void SetUp() override
     {
-        kowalski = addUser("jkowalski", "Jan", "Kowalski");
-        nowak = addUser("anowak", "Anna", "Nowak");
-        adamczyk = addUser("padamczyk", "Piotr", "Adamczyk");
+        kowalski = addUser(QStringLiteral("jkowalski"), QStringLiteral("Jan"),
+                           QStringLiteral("Kowalski"));
+        nowak = addUser(QStringLiteral("anowak"), QStringLiteral("Anna"), QStringLiteral("Nowak"));
+        adamczyk = addUser(QStringLiteral("padamczyk"), QStringLiteral("Piotr"),
+                           QStringLiteral("Adamczyk"));
         TZlecenia_przychObj order(db.connection());
         order.NUMER = 15;
         order.IDUSER = kowalski;
@@ -28,16 +31,9 @@ protected:
         orderKey = order.GetMaxId();
     }
 
-    int addUser(const char *login, const char *firstName, const char *surname)
+    int addUser(const QString &login, const QString &firstName, const QString &surname)
     {
-        TUsersObj user(db.connection());
-        user.LOGIN = QString::fromUtf8(login);
-        user.IMIE = QString::fromUtf8(firstName);
-        user.NAZWISKO = QString::fromUtf8(surname);
-        user.Insert();
-        return db.scalar(QStringLiteral("SELECT ID_USER FROM USERS WHERE LOGIN = '%1'")
-                             .arg(QString::fromUtf8(login)))
-            .toInt();
+        return TestData::addUser(db.connection(), {login, firstName, surname});
     }
 
     int issuingUser()
