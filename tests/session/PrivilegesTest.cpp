@@ -5,22 +5,22 @@
 #include "SessionFixture.h"
 #include "TDaneFirmy.h"
 
-#include <QWidget>
+#include <QObject>
 
 #include <gtest/gtest.h>
 
 // Forms as the privilege tables know them: by their C++ class names.
-class TfrmZlecPrzychodzace : public QWidget
+class TfrmZlecPrzychodzace : public QObject
 {
     Q_OBJECT
 };
 
-class TfrmMiasta : public QWidget
+class TfrmMiasta : public QObject
 {
     Q_OBJECT
 };
 
-class TfrmBezUprawnien : public QWidget
+class TfrmBezUprawnien : public QObject
 {
     Q_OBJECT
 };

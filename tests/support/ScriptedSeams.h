@@ -1,23 +1,22 @@
 #pragma once
 
-#include <gtest/gtest.h>
+#include "FilePrompts.h"
+#include "ModalRunner.h"
+#include "ScriptedFilePrompts.h"
+#include "ScriptedModalRunner.h"
 
-#include <QTemporaryDir>
+#include <gtest/gtest.h>
 
 #include <memory>
 
-// Runs every test with the scripted modal runner and file prompts, and
-// keeps the settings the tests write in a directory of their own, emptied
-// before each test.
+// Runs every test of forms with the scripted modal runner and file prompts.
 class ScriptedSeamsListener : public testing::EmptyTestEventListener
 {
 public:
-    ScriptedSeamsListener();
-    ~ScriptedSeamsListener() override;
-
     void OnTestStart(const testing::TestInfo &) override;
     void OnTestEnd(const testing::TestInfo &) override;
 
 private:
-    QTemporaryDir m_settings;
+    std::unique_ptr<ModalRunners::Scoped<ScriptedModalRunner>> m_modalRunner;
+    std::unique_ptr<FilePromptService::Scoped<ScriptedFilePrompts>> m_filePrompts;
 };

@@ -1,36 +1,44 @@
+#include "TestRun.h"
+
 #include "DateTime.h"
 #include "ScriptedMessages.h"
-#include "ScriptedSeams.h"
 
-#include <QApplication>
 #include <QLocale>
+#include <QSettings>
+#include <QTemporaryDir>
 
 #include <gtest/gtest.h>
 
+#include <memory>
+
 namespace {
 
-// Every test runs with scripted message boxes: a box that a test does not
-// expect fails it instead of blocking the run.
 class ScriptedMessagesListener : public testing::EmptyTestEventListener
 {
+public:
+    ScriptedMessagesListener()
+    {
+        QSettings::setPath(QSettings::NativeFormat, QSettings::UserScope, m_settings.path());
+    }
+
     void OnTestStart(const testing::TestInfo &) override
     {
+        QSettings(QStringLiteral("Kelvaro")).clear();
         m_messages = std::make_unique<MessageServices::Scoped<ScriptedMessages>>();
     }
     void OnTestEnd(const testing::TestInfo &) override { m_messages.reset(); }
+
+private:
+    QTemporaryDir m_settings;
     std::unique_ptr<MessageServices::Scoped<ScriptedMessages>> m_messages;
 };
 
 } // namespace
 
-int main(int argc, char **argv)
+void prepareTestRun(int &argc, char **argv)
 {
-    qputenv("QT_QPA_PLATFORM", "offscreen");
-    QApplication app(argc, argv);
     QLocale::setDefault(QLocale(QLocale::Polish, QLocale::Poland));
     qRegisterMetaType<DateTime>();
     testing::InitGoogleTest(&argc, argv);
     testing::UnitTest::GetInstance()->listeners().Append(new ScriptedMessagesListener);
-    testing::UnitTest::GetInstance()->listeners().Append(new ScriptedSeamsListener);
-    return RUN_ALL_TESTS();
 }
