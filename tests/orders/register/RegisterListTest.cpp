@@ -54,108 +54,20 @@ TEST_F(RegisterList, ShowsTheWindowWithItsColumnsAndTotal)
     EXPECT_TRUE(form->KartaZeZlecen());
 }
 
-TEST_F(RegisterList, FillsEveryColumnOfAnOrder)
+TEST_F(RegisterList, EachRowShowsTheTextsOfItsOrder)
 {
     db.exec(QStringLiteral("UPDATE KONTRAHENCI SET SKROT = 'KLIENT-X' WHERE ID_KONTRAHENTA = 2"));
-    db.exec(QStringLiteral("INSERT INTO FAKTURY (ID_FAKTURY, NR_KOLEJNY) VALUES (900, 12)"));
     const int key = addOrder([](TZlecenia_przychObj &o) {
-        o.DATA = DateTime::fromDate(QDate(2026, 3, 9));
         o.NUMER = 42;
-        o.KIEROWCA = QStringLiteral("Jan Wąs");
-        o.NUMER_OBCY = QStringLiteral("ZK/7");
-        o.IDFAKTURY = 900;
-        o.NR_KARTY = 31;
-        o.NR_LISTU = 7;
-        o.POJAZD = QStringLiteral("EL 12345");
-        o.NUMER_FAKT_PRZEW = QStringLiteral("FV/1/2026");
-        o.KOSZTRAZEM = 800.5;
         o.KWOTA = 1000.0;
-        o.KWOTA_FAKT_PRZEW = 984.615;
+        o.KOSZTRAZEM = 800.5;
     });
     const auto form = openRegister();
-    form->deOd->setDate(QDate(2026, 3, 1));
-    form->frameListView1->Refresh();
-
     EXPECT_EQ(cell(*form, key, Col::Numer), "00000042");
     EXPECT_EQ(cell(*form, key, Col::Zleceniodawca), "KLIENT-X");
-    EXPECT_EQ(cell(*form, key, Col::Kierowca), "Jan Wąs");
-    EXPECT_EQ(cell(*form, key, Col::ZlecObce), "ZK/7");
-    EXPECT_EQ(cell(*form, key, Col::DataZaladunku), "2026-03-09");
-    EXPECT_EQ(cell(*form, key, Col::Faktura), "00012");
-    EXPECT_EQ(cell(*form, key, Col::NrKarty), "00031");
-    EXPECT_EQ(cell(*form, key, Col::NrListu), "000007");
-    EXPECT_EQ(cell(*form, key, Col::NrRej), "EL 12345");
-    EXPECT_EQ(cell(*form, key, Col::FaktPrzewoznika), "FV/1/2026");
-    EXPECT_EQ(cell(*form, key, Col::Koszt), "800,5");
     EXPECT_EQ(cell(*form, key, Col::Przychod), amount("1 000,00"));
     EXPECT_EQ(cell(*form, key, Col::Roznica), "199,50");
-    EXPECT_EQ(cell(*form, key, Col::KwotaFaktPrzewoznika), "984,615");
-    EXPECT_EQ(cell(*form, key, Col::Operator), "admin");
-    EXPECT_EQ(cell(*form, key, Col::IdKontrahenta), "2");
-    EXPECT_EQ(cell(*form, key, Col::IdPrzewoznika), "1");
     EXPECT_EQ(cell(*form, key, Col::IdZlecenia), QString::number(key));
-}
-
-TEST_F(RegisterList, ShowsTheRouteThroughThreeCities)
-{
-    db.exec(QStringLiteral("INSERT INTO MIASTA (ID_MIASTA, NAZWA) VALUES (901, 'Kraków')"));
-    db.exec(QStringLiteral("INSERT INTO MIASTA (ID_MIASTA, NAZWA) VALUES (902, 'Łódź')"));
-    db.exec(QStringLiteral("INSERT INTO MIASTA (ID_MIASTA, NAZWA) VALUES (903, 'Gdańsk')"));
-    const int viaCity = addOrder([](TZlecenia_przychObj &o) {
-        o.IDMIASTO_OD = 901;
-        o.IDMIASTO_VIA = 902;
-        o.IDMIASTO_DO = 903;
-    });
-    const int direct = addOrder([](TZlecenia_przychObj &o) {
-        o.IDMIASTO_OD = 901;
-        o.IDMIASTO_DO = 903;
-    });
-    const auto form = openRegister();
-    EXPECT_EQ(cell(*form, viaCity, Col::Trasa), "Kraków-Łódź-Gdańsk");
-    EXPECT_EQ(cell(*form, direct, Col::Trasa), "Kraków--Gdańsk");
-}
-
-TEST_F(RegisterList, RevenueBelowOneWholeZlotyComesFromTheRates)
-{
-    const int key = addOrder([](TZlecenia_przychObj &o) {
-        o.KWOTA = 0.40;   // reads as 0
-        o.KM_LADOWNE = 100;
-        o.STAWKA_KMLAD = 1.255;      // 125.50
-        o.KM_PUSTE = 10.5;
-        o.STAWKA_KMPUSTY = 0.333;    // 3.4965 -> 3.50
-        o.ILOSC_GODZIN = 2.5;
-        o.STAWKA_GODZINY = 40.002;   // 100.005 -> 100.01
-        o.PALETYILOSC = 3;
-        o.STAWKA_PALETY = 12.345;    // 37.035 -> 37.04
-        o.KOSZTRAZEM = 66.05;
-    });
-    const auto form = openRegister();
-    EXPECT_EQ(cell(*form, key, Col::Przychod), "266,05");
-    EXPECT_EQ(cell(*form, key, Col::Roznica), "200,00");
-}
-
-TEST_F(RegisterList, AnAgreedAmountShowsAsAWholeNumber)
-{
-    const int key = addOrder([](TZlecenia_przychObj &o) {
-        o.KWOTA = 1234.56;
-        o.KM_LADOWNE = 100;
-        o.STAWKA_KMLAD = 2.0;
-    });
-    const auto form = openRegister();
-    EXPECT_EQ(cell(*form, key, Col::Przychod), amount("1 235,00"));
-}
-
-TEST_F(RegisterList, ZeroInvoiceShowsADashAndZeroCardShowsZeros)
-{
-    const int key = addOrder([](TZlecenia_przychObj &o) {
-        o.IDFAKTURY = 0;
-        o.NR_KARTY = 0;
-        o.NR_LISTU = 0;
-    });
-    const auto form = openRegister();
-    EXPECT_EQ(cell(*form, key, Col::Faktura), "-");
-    EXPECT_EQ(cell(*form, key, Col::NrKarty), "00000");
-    EXPECT_EQ(cell(*form, key, Col::NrListu), "000000");
 }
 
 TEST_F(RegisterList, UndatedOrdersAreListedWhateverTheRange)

@@ -1,0 +1,98 @@
+#include "PriceRanges.h"
+#include "TestData.h"
+#include "TestDatabase.h"
+
+#include <QStringList>
+
+#include <gtest/gtest.h>
+
+namespace {
+
+using namespace TestData;
+
+// Both axes go through the same checks: what differs between them is only
+// which table and columns each step names.
+class PriceRangesTest : public testing::TestWithParam<RangeAxis>
+{
+protected:
+    RangeAxis axis() const { return GetParam(); }
+
+    int add(int upperBound) { return PriceRanges::add(db.connection(), axis(), upperBound); }
+
+    // "from-to" of every range of the axis, by upper bound.
+    QStringList ranges()
+    {
+        QStringList texts;
+        for (const PriceRange &range : PriceRanges::list(db.connection(), axis(),
+                                                         PriceRanges::editorListing(axis())))
+            texts << QStringLiteral("%1-%2").arg(range.from).arg(range.to);
+        return texts;
+    }
+
+    // A cell of the main price list on the range, crossing a range of the
+    // other axis.
+    void useInACell(int key)
+    {
+        Connection &c = db.connection();
+        if (axis() == RangeAxis::Kilometres)
+            addCell(c, {.row = key, .column = addKilogramRange(c, 0, 1000), .amount = 10});
+        else
+            addCell(c, {.row = addKilometreRange(c, 0, 50), .column = key, .amount = 10});
+    }
+
+    TestDatabase db;
+};
+
+} // namespace
+
+TEST_P(PriceRangesTest, UpperBoundsInAnyOrderBecomeContiguousRanges)
+{
+    const int middle = add(100);
+    add(50);
+    add(200);
+    EXPECT_EQ(ranges(), (QStringList{"0-50", "51-100", "101-200"}));
+    const PriceRange loaded = PriceRanges::load(db.connection(), axis(), middle);
+    EXPECT_EQ(loaded.key, middle);
+    EXPECT_EQ(loaded.from, 51);
+    EXPECT_EQ(loaded.to, 100);
+}
+
+TEST_P(PriceRangesTest, ChangingOrRemovingARangeRenumbersTheAxis)
+{
+    add(50);
+    const int middle = add(100);
+    const int last = add(200);
+    PriceRanges::change(db.connection(), axis(), middle, 150);
+    EXPECT_EQ(ranges(), (QStringList{"0-50", "51-150", "151-200"}));
+    PriceRanges::remove(db.connection(), axis(), middle);
+    EXPECT_EQ(ranges(), (QStringList{"0-50", "51-200"}));
+    EXPECT_EQ(PriceRanges::load(db.connection(), axis(), last).from, 51);
+}
+
+TEST_P(PriceRangesTest, TheDuplicateTestLeavesOutTheRangeBeingEdited)
+{
+    const int first = add(50);
+    add(100);
+    Connection &c = db.connection();
+    EXPECT_TRUE(PriceRanges::exists(c, PriceRanges::duplicateTest(axis()), 100));
+    EXPECT_FALSE(PriceRanges::exists(c, PriceRanges::duplicateTest(axis()), 75));
+    EXPECT_FALSE(PriceRanges::exists(c, PriceRanges::duplicateTest(axis(), first), 50));
+    EXPECT_TRUE(PriceRanges::exists(c, PriceRanges::duplicateTest(axis(), first), 100));
+}
+
+TEST_P(PriceRangesTest, UsageCountsTheCellsOnTheRangeAndTheTotalBothAxes)
+{
+    const int used = add(50);
+    const int unused = add(100);
+    useInACell(used);
+    EXPECT_EQ(PriceRanges::usage(db.connection(), axis(), used), 1);
+    EXPECT_EQ(PriceRanges::usage(db.connection(), axis(), unused), 0);
+    EXPECT_EQ(PriceRanges::totalCount(db.connection()), 3);
+}
+
+INSTANTIATE_TEST_SUITE_P(BothAxes, PriceRangesTest,
+                         testing::Values(RangeAxis::Kilometres, RangeAxis::Kilograms),
+                         [](const testing::TestParamInfo<RangeAxis> &info) {
+                             return info.param == RangeAxis::Kilometres ? "Kilometres"
+                                                                         : "Kilograms";
+                         });
