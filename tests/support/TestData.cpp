@@ -13,6 +13,19 @@
 
 namespace TestData {
 
+namespace {
+
+// Inserts the record through its table object and returns its new key.
+template <class Record>
+int inserted(Record &record)
+{
+    record.Insert();
+    const auto &info = Record::description().info;
+    return lastKey(record.connection(), info.table, info.key);
+}
+
+} // namespace
+
 int lastKey(Connection &connection, const QString &table, const QString &keyColumn)
 {
     Statement st(connection);
@@ -27,8 +40,7 @@ int addCity(Connection &connection, const City &city)
     record.NAZWA = city.name;
     record.KOD = city.postcode;
     record.IDKRAJU = city.country;
-    record.Insert();
-    return lastKey(connection, QStringLiteral("MIASTA"), QStringLiteral("ID_MIASTA"));
+    return inserted(record);
 }
 
 int addTariff(Connection &connection, const Tariff &tariff)
@@ -40,9 +52,7 @@ int addTariff(Connection &connection, const Tariff &tariff)
     record.KWOTA_ZA_KM_LAD = tariff.perLoadedKm;
     record.KWOTA_ZA_GODZ = tariff.perHour;
     record.KWOTA_ZA_PALETE = tariff.perPallet;
-    record.Insert();
-    return lastKey(connection, QStringLiteral("TARYFYPRZEWOZNIKA"),
-                   QStringLiteral("ID_TARYFYPRZEWOZNIKA"));
+    return inserted(record);
 }
 
 int addContractor(Connection &connection, const QString &shortName)
@@ -50,8 +60,7 @@ int addContractor(Connection &connection, const QString &shortName)
     TKontrahenciObj record(connection);
     record.SKROT = shortName;
     record.NAZWA = shortName + QStringLiteral(" Sp. z o.o.");
-    record.Insert();
-    return lastKey(connection, QStringLiteral("KONTRAHENCI"), QStringLiteral("ID_KONTRAHENTA"));
+    return inserted(record);
 }
 
 int addUnit(Connection &connection, const QString &name)
@@ -59,8 +68,7 @@ int addUnit(Connection &connection, const QString &name)
     TMiaryObj record(connection);
     record.NAZWA = name;
     record.SKROT = name.left(3);
-    record.Insert();
-    return lastKey(connection, QStringLiteral("MIARY"), QStringLiteral("ID_MIARY"));
+    return inserted(record);
 }
 
 int addUser(Connection &connection, const User &user)
@@ -69,8 +77,7 @@ int addUser(Connection &connection, const User &user)
     record.LOGIN = user.login;
     record.IMIE = user.firstName;
     record.NAZWISKO = user.surname;
-    record.Insert();
-    return lastKey(connection, QStringLiteral("USERS"), QStringLiteral("ID_USER"));
+    return inserted(record);
 }
 
 void addSetting(Connection &connection, const Setting &setting)
@@ -96,7 +103,8 @@ int addFilter(Connection &connection, const QString &text)
     st.add(QStringLiteral("INSERT INTO FILTRY_PRZYCH (NR_FILTRA, OPIS) VALUES (1, :aOpis)"));
     st.bind(QStringLiteral("aOpis"), text);
     st.exec();
-    return lastKey(connection, QStringLiteral("FILTRY_PRZYCH"), QStringLiteral("ID_FILTRY_PRZYCH"));
+    return lastKey(connection, QStringLiteral("FILTRY_PRZYCH"),
+                   QStringLiteral("ID_FILTRY_PRZYCH"));
 }
 
 int addKilometreRange(Connection &connection, int from, int to)
@@ -104,8 +112,7 @@ int addKilometreRange(Connection &connection, int from, int to)
     TCenniki_kraj_wierszeObj range(connection);
     range.ZAKRES_WOD = from;
     range.ZAKRES_WDO = to;
-    range.Insert();
-    return range.GetMaxId();
+    return inserted(range);
 }
 
 int addKilogramRange(Connection &connection, int from, int to)
@@ -113,8 +120,7 @@ int addKilogramRange(Connection &connection, int from, int to)
     TCenniki_kraj_kolumnyObj range(connection);
     range.ZAKRES_KOD = from;
     range.ZAKRES_KDO = to;
-    range.Insert();
-    return range.GetMaxId();
+    return inserted(range);
 }
 
 int addGroup(Connection &connection, const QString &name, bool blocked)
@@ -122,8 +128,7 @@ int addGroup(Connection &connection, const QString &name, bool blocked)
     TCenniki_kraj_grupyObj group(connection);
     group.NAZWA = name;
     group.BLOKADA = blocked ? 1 : 0;
-    group.Insert();
-    return group.GetMaxId();
+    return inserted(group);
 }
 
 void addCell(Connection &connection, const Cell &cell)
