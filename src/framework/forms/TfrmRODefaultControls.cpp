@@ -89,8 +89,8 @@ void TfrmRODefault::checkAccelerators()
         if (letter.isNull())
             continue;
         if (used.contains(letter)) {
-            MessageServices::instance().showMessage(QStringLiteral("Zdublowany shortcut dla litery ")
-                                                   + u'"' + letter + u'"');
+            MessageServices::instance().showMessage(
+                QStringLiteral("Zdublowany shortcut dla litery ") + u'"' + letter + u'"');
         }
         used.insert(letter);
     }
