@@ -12,6 +12,10 @@ QDate epoch()
     return QDate(1899, 12, 30);
 }
 
+// Far beyond any date a document carries, yet well inside what QDate and a
+// 64-bit day offset hold, so the conversion below cannot overflow.
+constexpr double LargestDayCount = 1e11;
+
 } // namespace
 
 DateTime DateTime::fromDate(const QDate &date)
@@ -45,14 +49,14 @@ DateTime DateTime::today()
 
 QDate DateTime::date() const
 {
-    if (isNull())
+    if (isNull() || std::fabs(m_days) > LargestDayCount)
         return QDate();
     return epoch().addDays(static_cast<qint64>(std::trunc(m_days)));
 }
 
 QTime DateTime::time() const
 {
-    if (isNull())
+    if (isNull() || std::fabs(m_days) > LargestDayCount)
         return QTime();
     const double fraction = std::fabs(m_days - std::trunc(m_days));
     auto ms = static_cast<int>(std::llround(fraction * MillisecondsPerDay));
@@ -63,7 +67,7 @@ QTime DateTime::time() const
 
 QDateTime DateTime::toDateTime() const
 {
-    if (isNull())
+    if (!date().isValid())
         return QDateTime();
     return QDateTime(date(), time(), Qt::UTC);
 }

@@ -19,9 +19,11 @@ public:
     static DateTime today();
 
     constexpr double days() const { return m_days; }
-    constexpr bool isNull() const { return m_days == 0.0; }
+    // A value that is not a finite number (a corrupt or uninitialised field)
+    // counts as no date rather than as a day no calendar has.
+    constexpr bool isNull() const { return m_days == 0.0 || m_days != m_days || m_days - m_days != 0.0; }
 
-    // Invalid for the null value.
+    // Invalid for the null value and beyond any calendar's range.
     QDate date() const;
     QTime time() const;
     // Wall time in UTC, so that no local daylight-saving gap can make it invalid.

@@ -3,6 +3,8 @@
 #include <QDateTime>
 #include <QRegularExpression>
 
+#include <limits>
+
 namespace ClockTime {
 
 std::optional<QTime> parse(const QString &text)
@@ -30,7 +32,12 @@ DateTime combine(DateTime day, const QTime &time)
 {
     if (day.isNull())
         return day;
-    return DateTime::fromDateTime(QDateTime(day.date(), time, Qt::UTC));
+    const DateTime joined = DateTime::fromDateTime(QDateTime(day.date(), time, Qt::UTC));
+    // Midnight of the day count's first day is the value 0, which means no
+    // date; the smallest count after it is the same day and hour and stays a date.
+    if (joined.isNull())
+        return DateTime(std::numeric_limits<double>::denorm_min());
+    return joined;
 }
 
 QString invalidTimeMessage(const QString &text)

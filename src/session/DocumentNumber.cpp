@@ -12,7 +12,12 @@ constexpr int MaxLength = 255;
 // when a number is formatted from it.
 QDate calendarDate(DateTime date)
 {
-    return QDate(1899, 12, 30).addDays(static_cast<qint64>(std::floor(date.days())));
+    const double days = std::floor(date.days());
+    // A value no calendar holds formats as an empty date rather than as
+    // whatever an overflowing conversion would make of it.
+    if (!std::isfinite(days) || std::fabs(days) > 1e11)
+        return QDate();
+    return QDate(1899, 12, 30).addDays(static_cast<qint64>(days));
 }
 
 QString shortDateText(const QDate &date)

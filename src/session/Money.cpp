@@ -16,6 +16,10 @@ double Money::RoundTo2(double amount)
 {
     if (!std::isfinite(amount) || std::fabs(amount) >= LargestRoundable)
         return amount;
+    // Below a tenth of a grosz the three decisive digits are all zero; the
+    // text of such a value would not even fit the buffer below.
+    if (std::fabs(amount) < 0.001)
+        return 0.0;
     // The shortest decimal text that reads back as the same double is the
     // number the user typed or saw; its digits decide, not the binary
     // approximation (which holds -1.005 as -1.00499999...).

@@ -2,6 +2,8 @@
 
 #include <gtest/gtest.h>
 
+#include <limits>
+
 TEST(DateTime, DayCountsFromTheEpochBothWays)
 {
     EXPECT_EQ(DateTime::fromDate(QDate(1899, 12, 30)).days(), 0.0);
@@ -28,6 +30,22 @@ TEST(DateTime, ZeroIsNoDate)
     EXPECT_FALSE(none.toDateTime().isValid());
     EXPECT_TRUE(DateTime::fromDate(QDate()).isNull());
     EXPECT_TRUE(DateTime::fromDateTime(QDateTime()).isNull());
+}
+
+TEST(DateTime, ValuesNoCalendarHoldsAreNoDate)
+{
+    const double infinity = std::numeric_limits<double>::infinity();
+    for (const double days : {std::numeric_limits<double>::quiet_NaN(), infinity, -infinity}) {
+        const DateTime value(days);
+        EXPECT_TRUE(value.isNull()) << days;
+        EXPECT_FALSE(value.date().isValid()) << days;
+        EXPECT_FALSE(value.time().isValid()) << days;
+        EXPECT_FALSE(value.toDateTime().isValid()) << days;
+    }
+    for (const double days : {9.3e18, -9.3e18, 1e300, -1e300}) {
+        EXPECT_FALSE(DateTime(days).date().isValid()) << days;
+        EXPECT_FALSE(DateTime(days).toDateTime().isValid()) << days;
+    }
 }
 
 TEST(DateTime, LocalDaylightSavingGapStillConverts)

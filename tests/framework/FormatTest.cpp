@@ -100,4 +100,7 @@ TEST(FormatParse, DatesWithAndWithoutTime)
     EXPECT_EQ(Format::parseDateTime(u"2024-03-05 10:11:12")->time(), QTime(10, 11, 12));
     EXPECT_FALSE(Format::parseDateTime(u"05.03.2024"));
     EXPECT_FALSE(Format::parseDateTime(u"2024-02-30"));
+    EXPECT_FALSE(Format::parseDateTime(u"xxxx-03-01"));
+    EXPECT_FALSE(Format::parseDateTime(u"abcd-12-31 10:00"));
+    EXPECT_FALSE(Format::parseDateTime(u"2024-0x-01"));
 }

@@ -25,6 +25,14 @@ TEST(ClockTime, SplitsAndJoinsDayAndHour)
     EXPECT_EQ(ClockTime::text(joined), QStringLiteral("02:30"));
     EXPECT_EQ(ClockTime::text(DateTime()), QStringLiteral("00:00"));
     EXPECT_TRUE(ClockTime::combine(DateTime(), QTime(8, 0)).isNull());
+
+    // The first day of the day count at midnight would be the value 0.
+    for (const DateTime firstDay : {DateTime(0.25), DateTime(-0.5)}) {
+        const DateTime midnight = ClockTime::combine(firstDay, QTime(0, 0));
+        EXPECT_FALSE(midnight.isNull());
+        EXPECT_EQ(midnight.date(), QDate(1899, 12, 30));
+        EXPECT_EQ(ClockTime::text(midnight), QStringLiteral("00:00"));
+    }
 }
 
 TEST(ClockTime, TheMessageQuotesTheText)

@@ -2,6 +2,8 @@
 
 #include <gtest/gtest.h>
 
+#include <limits>
+
 namespace {
 
 const DateTime March5 = DateTime::fromDate(QDate(2024, 3, 5));
@@ -69,4 +71,14 @@ TEST(DocumentNumber, UnknownCodesAddNothingAndBlanksAreRemoved)
 TEST(DocumentNumber, IsAtMost255Characters)
 {
     EXPECT_EQ(number(QStringLiteral("%T"), 1, QString(300, QLatin1Char('x'))).size(), 255);
+}
+
+TEST(DocumentNumber, ADateNoCalendarHoldsGivesAnEmptyDate)
+{
+    for (const double days : {1e300, -9.3e18, std::numeric_limits<double>::quiet_NaN()}) {
+        EXPECT_EQ(DocumentNumber::dateText(DateTime(days)), QString()) << days;
+        EXPECT_EQ(number(QStringLiteral("%####;/;%d"), 7, QString(), DateTime(days)),
+                  QStringLiteral("0007/"))
+            << days;
+    }
 }

@@ -13,6 +13,9 @@ TEST(RoundTo2, DecidesOnTheThirdDecimalDigit)
     EXPECT_DOUBLE_EQ(Money::RoundTo2(123456.789), 123456.79);
     EXPECT_DOUBLE_EQ(Money::RoundTo2(7.0), 7.0);
     EXPECT_DOUBLE_EQ(Money::RoundTo2(0.0), 0.0);
+    // Values whose decimal text runs to hundreds of digits.
+    for (const double tiny : {1e-300, -1e-300, 4.9e-324, 0.000999})
+        EXPECT_EQ(Money::RoundTo2(tiny), 0.0) << tiny;
 }
 
 TEST(RoundTo2, AddsTheCentAlsoBelowZero)

@@ -204,7 +204,13 @@ std::optional<QDateTime> parseDateTime(QStringView text)
     const QStringView trimmed = text.trimmed();
     if (trimmed.size() < 10 || trimmed[4] != u'-' || trimmed[7] != u'-')
         return std::nullopt;
-    const QDate day(digitsAt(trimmed, 0, 4), digitsAt(trimmed, 5, 2), digitsAt(trimmed, 8, 2));
+    const int year = digitsAt(trimmed, 0, 4);
+    const int month = digitsAt(trimmed, 5, 2);
+    const int dayOfMonth = digitsAt(trimmed, 8, 2);
+    // digitsAt gives -1 for a non-digit, and -1 is a year QDate accepts.
+    if (year < 0 || month < 0 || dayOfMonth < 0)
+        return std::nullopt;
+    const QDate day(year, month, dayOfMonth);
     if (!day.isValid())
         return std::nullopt;
     if (trimmed.size() == 10)
