@@ -2,7 +2,6 @@
 #include "PrintoutError.h"
 #include "TfrmZalacznik.h"
 
-#include <QTemporaryDir>
 
 class AttachmentTest : public InvoicingFixture
 {
@@ -162,20 +161,4 @@ TEST_F(AttachmentTest, AMissingInvoiceIsSaid)
 {
     TfrmZalacznik printout(db.connection(), 404);
     EXPECT_THROW(printout.qrZalacznik().prepare(), PrintoutError);
-}
-
-TEST_F(AttachmentTest, PdfIsALyingSheetWithThePolishTexts)
-{
-    const int order = addInvoicedOrder([](auto &o) { o.KWOTA = 1000; });
-    addGoods(order, QStringLiteral("Żółte łóżka"), 3);
-    QTemporaryDir dir;
-    const QString path = dir.filePath(QStringLiteral("zalacznik.pdf"));
-    TfrmZalacznik printout(db.connection(), invoice);
-    ASSERT_TRUE(printout.qrZalacznik().exportPdf(path));
-    EXPECT_EQ(Poppler::info(path, QStringLiteral("Page size")),
-              QStringLiteral("842 x 595 pts (A4)"));
-    const QString text = Poppler::text(path);
-    for (const char *expected : {"Zestawienie zbiorcze do rachunku numer :", "Żółte łóżka",
-                                 "Miejsce rozł.", "Zatwierdził"})
-        EXPECT_TRUE(text.contains(QString::fromUtf8(expected))) << expected;
 }

@@ -58,14 +58,6 @@ TEST_F(InvoiceLineTest, ProductIsRoundedBeforeTheVatIsTakenFromIt)
     EXPECT_DOUBLE_EQ(l.grossValue, 12.46);
 }
 
-TEST_F(InvoiceLineTest, LargeAmountsAreGroupedByThousands)
-{
-    const InvoiceLine l = line(2.5, 1234.5, standard);
-    EXPECT_EQ(l.quantity, QStringLiteral("2,5"));
-    EXPECT_EQ(l.net, QStringLiteral("3\u00A0086,25"));
-    EXPECT_EQ(l.vat, QStringLiteral("709,84"));
-}
-
 TEST_F(InvoiceLineTest, QuantityZeroIsTextOnlyAndChangesNoTotal)
 {
     InvoiceTotals totals;

@@ -1,11 +1,9 @@
 #include "InvoicingFixture.h"
-#include "PrintoutError.h"
 #include "TKierowcyObj.h"
 #include "TMiejsca_zlecObj.h"
 #include "TTowaryObj.h"
 #include "TfrmPrintReport.h"
 
-#include <QTemporaryDir>
 
 class TransportOrderTest : public InvoicingFixture
 {
@@ -122,23 +120,4 @@ TEST_F(TransportOrderTest, WithoutAddressesTheRouteCitiesAndTheDriversPhone)
                                 "dokumentem przewozowym"}))
         << texts.join(u'|').toStdString();
     EXPECT_FALSE(texts.contains("Uwagi:"));
-}
-
-TEST_F(TransportOrderTest, AMissingOrderIsSaid)
-{
-    TfrmPrintReport printout(db.connection(), 404);
-    EXPECT_THROW(printout.qrZlecenie().prepare(), PrintoutError);
-}
-
-TEST_F(TransportOrderTest, PdfHoldsThePolishTexts)
-{
-    QTemporaryDir dir;
-    const QString path = dir.filePath(QStringLiteral("zlecenie.pdf"));
-    TfrmPrintReport printout(db.connection(), fullOrder());
-    ASSERT_TRUE(printout.qrZlecenie().exportPdf(path));
-    EXPECT_EQ(Poppler::info(path, QStringLiteral("Pages")), QStringLiteral("1"));
-    const QString text = Poppler::text(path);
-    for (const char *expected : {"Zlecenie transportowe nr 00001207", "Żwirek Transport",
-                                 "Łukasz Dąbrowski", "zakaz piętrowania", "Przewoźnik oświadcza"})
-        EXPECT_TRUE(text.contains(QString::fromUtf8(expected))) << expected << text.toStdString();
 }
