@@ -20,6 +20,7 @@ test: build
 bench: build
 	$(BUILD)/bin/haulix-bench
 	$(BUILD)/bin/haulix-bench-register
+	$(BUILD)/bin/haulix-bench-printouts
 
 clean:
 	rm -rf $(BUILD)

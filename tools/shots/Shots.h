@@ -19,3 +19,6 @@ void addPricingShots(ShotBook &book);
 
 // The order editor, goods, places and the template date.
 void addOrdersShots(ShotBook &book);
+
+// The invoice, its attachment and the transport order, first pages.
+void addPrintoutShots(ShotBook &book);

@@ -80,6 +80,12 @@ ReportLabel &ReportLabel::setStretch(bool stretch)
     return *this;
 }
 
+ReportLabel &ReportLabel::setBottomMargin(double marginMm)
+{
+    m_bottomMargin = marginMm;
+    return *this;
+}
+
 ReportLabel &ReportLabel::setFrame(Qt::Edges edges, double widthMm)
 {
     m_frame = edges;

@@ -52,6 +52,10 @@ public:
     // The band grows so that the whole text fits below the label's top.
     bool stretch() const { return m_stretch; }
     ReportLabel &setStretch(bool stretch);
+    // Room a stretching label keeps under its text, so that a ruled row
+    // does not end on the last line's descenders.
+    double bottomMargin() const { return m_bottomMargin; }
+    ReportLabel &setBottomMargin(double marginMm);
 
     Qt::Edges frame() const { return m_frame; }
     double frameWidth() const { return m_frameWidth; }
@@ -78,6 +82,7 @@ private:
     ReportFont m_font;
     bool m_wordWrap = false;
     bool m_stretch = false;
+    double m_bottomMargin = 0.0;
     Qt::Edges m_frame;
     double m_frameWidth = 0.2;
     bool m_visible = true;

@@ -229,7 +229,8 @@ double ReportPreRenderer::bandHeight(const ReportBand &band, const QStringList &
         if (!label.isVisible() || !label.stretch())
             continue;
         const QRectF &box = label.geometry();
-        const double needed = textHeight(label.font(), box.width(), label.wordWrap(), text);
+        const double needed = textHeight(label.font(), box.width(), label.wordWrap(), text)
+            + label.bottomMargin();
         height = qMax(height, box.top() + qMax(box.height(), needed));
     }
     return height;

@@ -140,6 +140,10 @@ void TfrmZlecPrzychodzace::buildButtons(QWidget *parent)
     BitBtn12 = TBitBtn::create(QStringLiteral("Towary"), QStringLiteral("BitBtn12"), parent);
     BitBtn13 = TBitBtn::create(QStringLiteral("M.załadunku"), QStringLiteral("BitBtn13"), parent);
     BitBtn4 = TBitBtn::create(QStringLiteral("M.Rozladunku"), QStringLiteral("BitBtn4"), parent);
+    BitBtn10
+        = TBitBtn::create(QStringLiteral("Drukuj fakturę"), QStringLiteral("BitBtn10"), parent);
+    BitBtn1
+        = TBitBtn::create(QStringLiteral("D&rukuj zlecenie"), QStringLiteral("BitBtn1"), parent);
     BitBtn6 = TBitBtn::create(QStringLiteral("&Kilometry"), QStringLiteral("BitBtn6"), parent);
     btnCenniki = TBitBtn::create(QStringLiteral("-> *.CSV"), QStringLiteral("btnCenniki"), parent);
 
@@ -150,6 +154,8 @@ void TfrmZlecPrzychodzace::buildButtons(QWidget *parent)
     layout->addWidget(BitBtn12);
     layout->addWidget(BitBtn13);
     layout->addWidget(BitBtn4);
+    layout->addWidget(BitBtn10);
+    layout->addWidget(BitBtn1);
     layout->addStretch(1);
     layout->addWidget(BitBtn6);
     layout->addWidget(btnCenniki);
@@ -198,6 +204,8 @@ void TfrmZlecPrzychodzace::buildActions()
         = action(QStringLiteral("Zaawansowana edycja"), QStringLiteral("acAdvancedEdit"));
     acAdvancedEdit->setShortcut(QKeySequence(Qt::CTRL | Qt::Key_A));
     Zamknij1 = action(QStringLiteral("Zamknij\\Otwórz"), QStringLiteral("Zamknij1"));
+    acPrintFra = action(QStringLiteral("Drukuj fakturę"), QStringLiteral("acPrintFra"));
+    acDrukuj = action(QStringLiteral("D&rukuj zlecenie"), QStringLiteral("acDrukuj"));
 
     for (QAction *withShortcut : {acShowDelete, acAdvancedEdit})
         withShortcut->setShortcutContext(Qt::WidgetWithChildrenShortcut);
@@ -220,6 +228,8 @@ void TfrmZlecPrzychodzace::buildActions()
     connect(acAdvancedEdit, &QAction::triggered, this,
             &TfrmZlecPrzychodzace::acAdvancedEditExecute);
     connect(Zamknij1, &QAction::triggered, this, &TfrmZlecPrzychodzace::Zamknij1Click);
+    connect(acPrintFra, &QAction::triggered, this, &TfrmZlecPrzychodzace::acPrintFraExecute);
+    connect(acDrukuj, &QAction::triggered, this, &TfrmZlecPrzychodzace::acDrukujExecute);
 
     linkButton(frameListView1->BitBtn5, acDodaj);
     linkButton(frameListView1->BitBtn4, acPopraw);
@@ -229,6 +239,8 @@ void TfrmZlecPrzychodzace::buildActions()
     linkButton(BitBtn12, acTowary);
     linkButton(BitBtn13, acMiejsceZaladunku);
     linkButton(BitBtn4, acMiejscaRozladunku);
+    linkButton(BitBtn10, acPrintFra);
+    linkButton(BitBtn1, acDrukuj);
     connect(frameListView1->BitBtn7, &QPushButton::clicked, frameListView1,
             &TframeListView::Refresh);
     connect(btnCenniki, &QPushButton::clicked, this, &TfrmZlecPrzychodzace::btnCennikiClick);

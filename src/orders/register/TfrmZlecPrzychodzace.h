@@ -57,6 +57,8 @@ public:
     TBitBtn *BitBtn12;    // "Towary"
     TBitBtn *BitBtn13;    // "M.załadunku"
     TBitBtn *BitBtn4;     // "M.Rozladunku"
+    TBitBtn *BitBtn10;    // "Drukuj fakturę"
+    TBitBtn *BitBtn1;     // "D&rukuj zlecenie"
     TBitBtn *BitBtn6;     // "&Kilometry"
     TBitBtn *btnCenniki;  // "-> *.CSV"
 
@@ -75,6 +77,8 @@ public:
     QAction *acUsunLadunek;
     QAction *acAdvancedEdit;   // Ctrl+A
     QAction *Zamknij1;         // popup "Zamknij\Otwórz"
+    QAction *acPrintFra;       // the selected order's invoice and attachment
+    QAction *acDrukuj;         // the selected order's transport order
 
 protected:
     void FormCreate() override;
@@ -102,6 +106,8 @@ private:
     void acAdvancedEditExecute();
     void Zamknij1Click();
     void btnCennikiClick();
+    void acPrintFraExecute();
+    void acDrukujExecute();
     void BitBtn6Click();
 
     // The order editor, modally; returns its modal result.

@@ -309,6 +309,26 @@ TEST(ReportLayout, WrappedTextStretchesItsBandAndPushesTheNextOneDown)
     EXPECT_DOUBLE_EQ(second.rectMm.height(), 5.0);
 }
 
+TEST(ReportLayout, BottomMarginKeepsRoomUnderAStretchedText)
+{
+    const QString text = QStringLiteral("Usługa przewozowa na trasie Gdańsk – Zakopane");
+    double heights[2] = {};
+    for (const double margin : {0.0, 0.8}) {
+        Report report;
+        bool printed = false;
+        report.setNeedData([&printed] { return !printed && (printed = true); });
+        report.addBand(BandType::Detail, QStringLiteral("detail"), 5)
+            .addLabel(QStringLiteral("tresc"), QRectF(0, 0, 30, 5), text)
+            .setWordWrap(true)
+            .setStretch(true)
+            .setBottomMargin(margin);
+        heights[margin > 0] = std::get<ReportTextItem>(report.prepare().at(0).items.at(0))
+                                  .rectMm.height();
+    }
+    EXPECT_GT(heights[0], 5.0);
+    EXPECT_NEAR(heights[1] - heights[0], 0.8, 1e-9);
+}
+
 TEST(ReportLayout, LandscapePagesAreWideAndLabelsSitInsideTheMargins)
 {
     CarrierInvoicesReport sample(sampleInvoices(1, 1));

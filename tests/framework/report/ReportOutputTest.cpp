@@ -1,5 +1,6 @@
 #include "CarrierInvoicesReport.h"
 #include "PdfFileReportOutput.h"
+#include "PopplerText.h"
 #include "QtReportOutput.h"
 #include "Report.h"
 #include "ScriptedMessages.h"
@@ -9,44 +10,12 @@
 #include <QFileInfo>
 #include <QPrintPreviewDialog>
 #include <QPrintPreviewWidget>
-#include <QProcess>
 #include <QTemporaryDir>
 #include <QTimer>
 
 #include <gtest/gtest.h>
 
 namespace {
-
-// Runs a poppler tool and returns what it printed; a missing tool fails the
-// test, since the machine was set up without poppler-utils.
-QString popplerOutput(const QString &tool, const QStringList &arguments)
-{
-    QProcess process;
-    process.start(tool, arguments);
-    if (!process.waitForFinished(60000) || process.exitCode() != 0) {
-        ADD_FAILURE() << tool.toStdString() << " failed: "
-                      << process.readAllStandardError().toStdString();
-        return QString();
-    }
-    return QString::fromUtf8(process.readAllStandardOutput());
-}
-
-QString pdfText(const QString &path)
-{
-    return popplerOutput(QStringLiteral("pdftotext"),
-                         {QStringLiteral("-layout"), path, QStringLiteral("-")});
-}
-
-QString pdfInfo(const QString &path, const QString &key)
-{
-    const QStringList lines
-        = popplerOutput(QStringLiteral("pdfinfo"), {path}).split(QLatin1Char('\n'));
-    for (const QString &line : lines) {
-        if (line.startsWith(key + QLatin1Char(':')))
-            return line.mid(key.size() + 1).trimmed();
-    }
-    return QString();
-}
 
 const QString pangram = QStringLiteral("Zażółć gęślą jaźń, ĄĘŁŃÓŚŹŻ");
 
@@ -62,10 +31,11 @@ TEST(ReportOutput, HeadlessPdfHoldsThePolishTextsOnA4Pages)
     const QString path = dir.filePath(QStringLiteral("przewoznicy.pdf"));
     ASSERT_TRUE(sample.report().exportPdf(path));
 
-    EXPECT_EQ(pdfInfo(path, QStringLiteral("Pages")), QStringLiteral("3"));
-    EXPECT_EQ(pdfInfo(path, QStringLiteral("Page size")), QStringLiteral("595 x 842 pts (A4)"));
-    EXPECT_EQ(pdfInfo(path, QStringLiteral("Title")), QStringLiteral("Faktury przewoźników"));
-    const QString text = pdfText(path);
+    EXPECT_EQ(Poppler::info(path, QStringLiteral("Pages")), QStringLiteral("3"));
+    EXPECT_EQ(Poppler::info(path, QStringLiteral("Page size")),
+              QStringLiteral("595 x 842 pts (A4)"));
+    EXPECT_EQ(Poppler::info(path, QStringLiteral("Title")), QStringLiteral("Faktury przewoźników"));
+    const QString text = Poppler::text(path);
     EXPECT_EQ(text.count(pangram), 3) << text.toStdString();
     EXPECT_TRUE(text.contains(QStringLiteral("Faktury przewoźników niezapłacone")));
     EXPECT_TRUE(text.contains(QStringLiteral("Źródło Żwirowe1")));
@@ -82,7 +52,8 @@ TEST(ReportOutput, LandscapeReportGivesLandscapeSheets)
     sample.report().setOrientation(QPageLayout::Landscape);
     const QString path = dir.filePath(QStringLiteral("poziomo.pdf"));
     ASSERT_TRUE(sample.report().exportPdf(path));
-    EXPECT_EQ(pdfInfo(path, QStringLiteral("Page size")), QStringLiteral("842 x 595 pts (A4)"));
+    EXPECT_EQ(Poppler::info(path, QStringLiteral("Page size")),
+              QStringLiteral("842 x 595 pts (A4)"));
 }
 
 TEST(ReportOutput, UnwritablePathIsReportedAndNothingIsWritten)
@@ -111,7 +82,7 @@ TEST(ReportOutput, PreviewAndPrintGoThroughTheInstalledOutput)
     EXPECT_EQ(preview.kind, PdfFileReportOutput::Kind::Preview);
     EXPECT_EQ(preview.title, QStringLiteral("Faktury przewoźników"));
     EXPECT_EQ(preview.pageCount, 3);
-    EXPECT_EQ(pdfInfo(preview.path, QStringLiteral("Pages")), QStringLiteral("3"));
+    EXPECT_EQ(Poppler::info(preview.path, QStringLiteral("Pages")), QStringLiteral("3"));
     EXPECT_EQ(files->deliveries()[1].kind, PdfFileReportOutput::Kind::Print);
     EXPECT_NE(files->deliveries()[1].path, preview.path);
 }

@@ -1,0 +1,38 @@
+#include "PrintCommand.h"
+
+#include "PrintJobs.h"
+
+std::optional<PrintCommand> PrintCommand::parse(const QStringList &arguments, QString &error)
+{
+    if (arguments.size() < 4 || arguments.at(0) != QLatin1String("--db")) {
+        error = usage();
+        return std::nullopt;
+    }
+    PrintCommand command;
+    command.database = arguments.at(1);
+    command.job = PrintJobs::find(arguments.at(2));
+    if (!command.job) {
+        error = QStringLiteral("Nieznany wydruk: %1.\n").arg(arguments.at(2)) + usage();
+        return std::nullopt;
+    }
+    command.arguments = arguments.mid(3, arguments.size() - 4);
+    if (command.arguments.size() != command.job->argumentCount) {
+        error = QStringLiteral("Wydruk %1 wymaga argumentów: %2.\n")
+                    .arg(command.job->name, command.job->arguments)
+            + usage();
+        return std::nullopt;
+    }
+    command.file = arguments.last();
+    return command;
+}
+
+QString PrintCommand::usage()
+{
+    QString text = QStringLiteral("Użycie: haulix-print --db BAZA WYDRUK [ARGUMENTY] PLIK.pdf\n"
+                                  "Wydruki:\n");
+    for (const PrintJobs::Job &job : PrintJobs::all()) {
+        text += QStringLiteral("  %1 %2").arg(job.name, job.arguments).leftJustified(34)
+            + job.description + u'\n';
+    }
+    return text;
+}

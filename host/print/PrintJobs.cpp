@@ -1,0 +1,70 @@
+#include "PrintJobs.h"
+
+#include "PdfBook.h"
+#include "TfrmPrintReport.h"
+#include "TfrmRachunekPL.h"
+#include "TfrmZalacznik.h"
+
+#include <stdexcept>
+
+namespace {
+
+int keyOf(const QString &argument)
+{
+    bool ok = false;
+    const int key = argument.toInt(&ok);
+    if (!ok || key < 1) {
+        throw std::invalid_argument(
+            QStringLiteral("Identyfikator musi być dodatnią liczbą całkowitą: %1")
+                .arg(argument)
+                .toStdString());
+    }
+    return key;
+}
+
+void invoice(PdfBook &book, Connection &connection, const QStringList &arguments)
+{
+    TfrmRachunekPL printout(connection, keyOf(arguments.at(0)));
+    book.add(printout.qrRachunekPL());
+}
+
+void attachment(PdfBook &book, Connection &connection, const QStringList &arguments)
+{
+    TfrmZalacznik printout(connection, keyOf(arguments.at(0)));
+    book.add(printout.qrZalacznik());
+}
+
+} // namespace
+
+const std::vector<PrintJobs::Job> &PrintJobs::all()
+{
+    static const std::vector<Job> jobs{
+        {QStringLiteral("invoice"), QStringLiteral("ID"),
+         QStringLiteral("faktura o identyfikatorze ID"), 1, invoice},
+        {QStringLiteral("attachment"), QStringLiteral("ID"),
+         QStringLiteral("załącznik do faktury o identyfikatorze ID"), 1, attachment},
+        {QStringLiteral("invoice-with-attachment"), QStringLiteral("ID"),
+         QStringLiteral("faktura i jej załącznik w jednym pliku"), 1,
+         [](PdfBook &book, Connection &connection, const QStringList &arguments) {
+             invoice(book, connection, arguments);
+             attachment(book, connection, arguments);
+         }},
+        {QStringLiteral("order"), QStringLiteral("ID"),
+         QStringLiteral("zlecenie transportowe dla przewoźnika, zlecenie o identyfikatorze ID"),
+         1,
+         [](PdfBook &book, Connection &connection, const QStringList &arguments) {
+             TfrmPrintReport printout(connection, keyOf(arguments.at(0)));
+             book.add(printout.qrZlecenie());
+         }},
+    };
+    return jobs;
+}
+
+const PrintJobs::Job *PrintJobs::find(const QString &name)
+{
+    for (const Job &job : all()) {
+        if (job.name == name)
+            return &job;
+    }
+    return nullptr;
+}

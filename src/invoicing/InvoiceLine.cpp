@@ -1,0 +1,28 @@
+#include "InvoiceLine.h"
+
+#include "CentRounding.h"
+#include "Format.h"
+#include "TFaktury_pozycjeObj.h"
+#include "TStawki_vatObj.h"
+
+InvoiceLine InvoiceLine::of(const TFaktury_pozycjeObj &position, const TStawki_vatObj &rate)
+{
+    InvoiceLine line;
+    line.name = position.TRESC;
+    if (position.ILOSC == 0.0) {
+        line.textOnly = true;
+        return line;
+    }
+    line.rateKey = position.ID_VAT;
+    line.unit = position.JM;
+    line.quantity = Format::number(position.ILOSC, u"#,##0.0");
+    line.unitPrice = Format::number(position.CENA_NETTO, u"#,##0.00");
+    line.netValue = CentRounding::halfUp(position.ILOSC * position.CENA_NETTO);
+    line.rate = rate.OPIS;
+    line.vatValue = CentRounding::halfUp(line.netValue * rate.PROCENT);
+    line.grossValue = line.netValue + line.vatValue;
+    line.net = Format::number(line.netValue, u"#,##0.00");
+    line.vat = Format::number(line.vatValue, u"#,##0.00");
+    line.gross = Format::number(line.grossValue, u"#,##0.00");
+    return line;
+}

@@ -1,0 +1,170 @@
+#include "InvoicingFixture.h"
+
+#include <QDir>
+#include <QFile>
+#include <QProcess>
+#include <QTemporaryDir>
+
+namespace {
+
+struct PrintRun
+{
+    int exitCode = -1;
+    QString errors;
+};
+
+PrintRun runPrint(const QStringList &arguments)
+{
+    QProcess program;
+    // Whatever display the machine has, the program must not need it.
+    QProcessEnvironment env = QProcessEnvironment::systemEnvironment();
+    env.remove(QStringLiteral("DISPLAY"));
+    env.remove(QStringLiteral("QT_QPA_PLATFORM"));
+    program.setProcessEnvironment(env);
+    program.start(QStringLiteral(HAULIX_PRINT_PATH), arguments);
+    EXPECT_TRUE(program.waitForFinished(60000)) << "haulix-print did not end";
+    return {program.exitCode(), QString::fromUtf8(program.readAllStandardError())};
+}
+
+} // namespace
+
+class HaulixPrintTest : public InvoicingFixture
+{
+protected:
+    void SetUp() override
+    {
+        InvoicingFixture::SetUp();
+        invoice = addInvoice();
+        addPosition(invoice, QStringLiteral("Przewóz towaru wg załącznika"), 1, 3000, 1);
+        for (int i = 1; i <= 45; ++i)
+            addOrder([this, i](TZlecenia_przychObj &o) {
+                o.NUMER = i;
+                o.KWOTA = 1000 + i;
+                o.IDFAKTURY = invoice;
+            });
+    }
+
+    QString target(const QString &name) const { return dir.filePath(name); }
+
+    QTemporaryDir dir;
+    int invoice = 0;
+};
+
+TEST_F(HaulixPrintTest, InvoiceWithAttachmentIsOneFileInvoiceFirst)
+{
+    const QString file = target(QStringLiteral("faktura.pdf"));
+    const PrintRun run = runPrint({QStringLiteral("--db"), db.path(),
+                                   QStringLiteral("invoice-with-attachment"),
+                                   QString::number(invoice), file});
+    ASSERT_EQ(run.exitCode, 0) << run.errors.toStdString();
+    EXPECT_TRUE(run.errors.isEmpty()) << run.errors.toStdString();
+    EXPECT_EQ(Poppler::info(file, QStringLiteral("Pages")), QStringLiteral("3"));
+    EXPECT_EQ(Poppler::info(file, QStringLiteral("size"), 1), QStringLiteral("595 x 842 pts (A4)"));
+    EXPECT_EQ(Poppler::info(file, QStringLiteral("size"), 3), QStringLiteral("842 x 595 pts (A4)"));
+    EXPECT_EQ(Poppler::info(file, QStringLiteral("Title")),
+              QStringLiteral("Faktura VAT Nr 007/07/2026"));
+    const QString text = Poppler::text(file);
+    const qsizetype invoiceAt = text.indexOf(QStringLiteral("Faktura VAT Nr 007/07/2026"));
+    const qsizetype attachmentAt = text.indexOf(QStringLiteral("Zestawienie zbiorcze do rachunku"));
+    EXPECT_GE(invoiceAt, 0);
+    EXPECT_GT(attachmentAt, invoiceAt);
+    EXPECT_TRUE(text.contains(QStringLiteral(" w/g załącznika do faktury")));
+}
+
+TEST_F(HaulixPrintTest, EachPrintoutByItsNameWithItsPolishTexts)
+{
+    const int order = addOrder([](TZlecenia_przychObj &o) {
+        o.NUMER = 77;
+        o.DODATKOWY_OPIS = QStringLiteral("Zażółć gęślą jaźń");
+    });
+    addGoods(order, QStringLiteral("Żółte łóżka"), 3);
+    const std::tuple<const char *, int, QStringList> printouts[] = {
+        {"invoice", invoice, {"Faktura VAT Nr 007/07/2026", "Gęśla Jaźń S.A.", "Słownie złotych:"}},
+        {"attachment", invoice, {"Zestawienie zbiorcze do rachunku numer :", "Miejsce rozł."}},
+        {"order", order, {"Zlecenie transportowe nr 00000077", "Żwirek Transport Jan Kolski",
+                          "Żółte łóżka", "Zażółć gęślą jaźń"}}};
+    for (const auto &[name, key, expected] : printouts) {
+        const QString file = target(QString::fromLatin1(name) + QStringLiteral(".pdf"));
+        const PrintRun run = runPrint({QStringLiteral("--db"), db.path(), QString::fromLatin1(name),
+                                       QString::number(key), file});
+        EXPECT_EQ(run.exitCode, 0) << name << run.errors.toStdString();
+        const QString text = Poppler::text(file);
+        for (const QString &shown : expected)
+            EXPECT_TRUE(text.contains(shown)) << name << ": " << shown.toStdString();
+    }
+}
+
+TEST_F(HaulixPrintTest, AnUnknownIdIsOneLineAndLeavesNoFile)
+{
+    const QString file = target(QStringLiteral("brak.pdf"));
+    const PrintRun run = runPrint({QStringLiteral("--db"), db.path(), QStringLiteral("invoice"),
+                                   QStringLiteral("9999"), file});
+    EXPECT_EQ(run.exitCode, 1);
+    EXPECT_EQ(run.errors, QStringLiteral("Nie ma faktury o identyfikatorze 9999.\n"));
+    EXPECT_FALSE(QFile::exists(file));
+    EXPECT_TRUE(QDir(dir.path()).isEmpty());
+}
+
+TEST_F(HaulixPrintTest, AFailureLeavesAnEarlierFileAsItWas)
+{
+    const QString file = target(QStringLiteral("zlecenie.pdf"));
+    {
+        QFile earlier(file);
+        ASSERT_TRUE(earlier.open(QIODevice::WriteOnly));
+        earlier.write("poprzedni");
+    }
+    const PrintRun run = runPrint({QStringLiteral("--db"), db.path(), QStringLiteral("order"),
+                                   QStringLiteral("9999"), file});
+    EXPECT_EQ(run.exitCode, 1);
+    EXPECT_EQ(run.errors, QStringLiteral("Nie ma zlecenia o identyfikatorze 9999.\n"));
+    QFile earlier(file);
+    ASSERT_TRUE(earlier.open(QIODevice::ReadOnly));
+    EXPECT_EQ(earlier.readAll(), "poprzedni");
+}
+
+TEST_F(HaulixPrintTest, AnUnreadableDatabaseOrFileIsOneLine)
+{
+    const QString file = target(QStringLiteral("faktura.pdf"));
+    PrintRun run = runPrint({QStringLiteral("--db"), target(QStringLiteral("nie-ma.fdb")),
+                             QStringLiteral("invoice"), QString::number(invoice), file});
+    EXPECT_EQ(run.exitCode, 1);
+    EXPECT_EQ(run.errors.count(u'\n'), 1) << run.errors.toStdString();
+    EXPECT_TRUE(run.errors.startsWith(QStringLiteral("Nie można otworzyć bazy danych ")));
+
+    const QString notADatabase = target(QStringLiteral("tekst.fdb"));
+    {
+        QFile text(notADatabase);
+        ASSERT_TRUE(text.open(QIODevice::WriteOnly));
+        text.write("to nie jest baza danych");
+    }
+    run = runPrint({QStringLiteral("--db"), notADatabase, QStringLiteral("invoice"),
+                    QString::number(invoice), file});
+    EXPECT_EQ(run.exitCode, 1);
+    EXPECT_EQ(run.errors.count(u'\n'), 1) << run.errors.toStdString();
+    EXPECT_TRUE(run.errors.startsWith(QStringLiteral("Nie można otworzyć bazy danych ")));
+
+    const QString nowhere = target(QStringLiteral("brak/katalogu/faktura.pdf"));
+    run = runPrint({QStringLiteral("--db"), db.path(), QStringLiteral("invoice"),
+                    QString::number(invoice), nowhere});
+    EXPECT_EQ(run.exitCode, 1);
+    EXPECT_EQ(run.errors.count(u'\n'), 1) << run.errors.toStdString();
+    EXPECT_TRUE(run.errors.startsWith(QStringLiteral("Nie można zapisać pliku ") + nowhere));
+    EXPECT_FALSE(QFile::exists(file));
+    EXPECT_FALSE(QFile::exists(nowhere));
+}
+
+TEST_F(HaulixPrintTest, AWrongCommandLineShowsTheUsage)
+{
+    PrintRun run = runPrint({QStringLiteral("--db"), db.path(), QStringLiteral("paragon"),
+                             QStringLiteral("1"), target(QStringLiteral("x.pdf"))});
+    EXPECT_EQ(run.exitCode, 2);
+    EXPECT_TRUE(run.errors.startsWith(QStringLiteral("Nieznany wydruk: paragon.")));
+    EXPECT_TRUE(run.errors.contains(QStringLiteral("invoice-with-attachment ID")));
+
+    run = runPrint({QStringLiteral("--db"), db.path(), QStringLiteral("invoice"),
+                    QStringLiteral("pierwsza"), target(QStringLiteral("x.pdf"))});
+    EXPECT_EQ(run.exitCode, 2);
+    EXPECT_EQ(run.errors,
+              QStringLiteral("Identyfikator musi być dodatnią liczbą całkowitą: pierwsza\n"));
+    EXPECT_TRUE(QDir(dir.path()).isEmpty());
+}
