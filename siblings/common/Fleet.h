@@ -1,0 +1,29 @@
+#pragma once
+
+#include "Choices.h"
+#include "EditorFields.h"
+
+#include <QString>
+
+class Connection;
+
+// What the registers of drivers, vehicles, trailers and road cards share:
+// each other's records offered by name, and the checks of a vehicle's or
+// trailer's registration and year.
+namespace Fleet {
+
+// Drivers as "first name surname", by surname; vehicles and trailers by
+// registration.
+ChoiceSource drivers();
+ChoiceSource vehicles();
+ChoiceSource trailers();
+
+// A registration already given to another record of the table (letter
+// case and blanks around ignored). A database failure throws DbError.
+Problem registrationProblem(Connection &connection, const QString &table, const QString &key,
+                            int ownKey, const QString &registration);
+
+// A year of production must be plausible; 0 means not given.
+Problem yearProblem(int year);
+
+} // namespace Fleet
