@@ -9,4 +9,5 @@ void registerShots(ShotBook &book)
     addReportShots(book);
     addPricingShots(book);
     addOrdersShots(book);
+    addSiblingShots(book);
 }

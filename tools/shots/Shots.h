@@ -19,3 +19,6 @@ void addPricingShots(ShotBook &book);
 
 // The order editor, goods, places and the template date.
 void addOrdersShots(ShotBook &book);
+
+// The registers and editors of the suite's sibling modules.
+void addSiblingShots(ShotBook &book);
