@@ -4,6 +4,7 @@
 #include "DbError.h"
 #include "MessageService.h"
 #include "RecordEditing.h"
+#include "RecordReader.h"
 #include "RecordWriter.h"
 #include "SessionScope.h"
 #include "TableDescription.h"
@@ -60,7 +61,7 @@ public:
                 m_definition.defaults(m_record, m_connection);
             return true;
         }
-        m_record = Obj(m_connection).SelectById(key);
+        m_record = recordByKey<Obj>(m_connection, key);
         return this->key() != 0;
     }
 

@@ -2,9 +2,6 @@
 
 #include "SessionContext.h"
 
-#include <QAbstractButton>
-#include <QTest>
-
 SiblingTest::SiblingTest()
 {
     setSession(1, &db.connection(), &transaction);
@@ -41,26 +38,4 @@ void SiblingTest::grant(const QStringList &formClasses, int userId, bool add, bo
 int SiblingTest::lastKey(const QString &table, const QString &key)
 {
     return db.scalar(QStringLiteral("SELECT MAX(%1) FROM %2").arg(key, table)).toInt();
-}
-
-void SiblingTest::type(QWidget *field, const QString &text)
-{
-    ASSERT_NE(field, nullptr);
-    field->setFocus();
-    QTest::keyClick(field, Qt::Key_A, Qt::ControlModifier);
-    QTest::keyClick(field, Qt::Key_Delete);
-    // QTest knows keys for ASCII only; other letters arrive as their text,
-    // as from a Polish keyboard layout.
-    for (const QChar c : text) {
-        if (c.unicode() < 128)
-            QTest::keyClick(field, c.toLatin1());
-        else
-            QTest::sendKeyEvent(QTest::Click, field, Qt::Key_unknown, QString(c), Qt::NoModifier);
-    }
-}
-
-void SiblingTest::click(QWidget *button)
-{
-    ASSERT_NE(button, nullptr);
-    QTest::mouseClick(button, Qt::LeftButton);
 }

@@ -2,13 +2,12 @@
 
 #include "TestDatabase.h"
 #include "Transaction.h"
+#include "Typing.h"
 
 #include <QString>
 #include <QStringList>
 
 #include <gtest/gtest.h>
-
-class QWidget;
 
 // A fresh database with a session for user 1, who may do everything on
 // the forms a test names, and helpers that type as a user does.
@@ -23,9 +22,8 @@ protected:
                bool remove = true);
     int lastKey(const QString &table, const QString &key);
 
-    // Replaces a field's text by typing: selects what is there, then types.
-    static void type(QWidget *field, const QString &text);
-    static void click(QWidget *button);
+    static void type(QWidget *field, const QString &text) { Typing::into(field, text); }
+    static void click(QWidget *button) { Typing::click(button); }
 
     TestDatabase db;
     Transaction transaction{db.connection()};
