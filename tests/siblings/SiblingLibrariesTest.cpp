@@ -140,7 +140,7 @@ TEST_F(SiblingLibraries, CancellingASelectionLeavesTheCallersKey)
     EXPECT_TRUE(script.finished());
 }
 
-TEST_F(SiblingLibraries, TheOrderEditorShowsThePickedDriverByFirstNameAndSurname)
+TEST_F(SiblingLibraries, TheOrderEditorsPickersFillTheirFieldsFromTheSiblings)
 {
     // The editor asks the launcher of its own session, which finds the
     // libraries through Haulix.ini beside the program.
@@ -160,6 +160,18 @@ TEST_F(SiblingLibraries, TheOrderEditorShowsThePickedDriverByFirstNameAndSurname
     script.then(QStringLiteral("TfrmKierowcy"), choose(QStringLiteral("Lewan")));
     editor->acKierowca->trigger();
     EXPECT_EQ(editor->ceKierowca->text(), "Paweł Lewandowski");
+
+    // A vehicle brings its own driver and trailer; a trailer can be changed.
+    script.then(QStringLiteral("TfrmPojazdy"), choose(QStringLiteral("EL 4521K")));
+    editor->acPojazd->trigger();
+    EXPECT_EQ(editor->edPojazd->text(), "EL 4521K");
+    EXPECT_EQ(editor->ceKierowca->text(), "Marek Wójcik");
+    EXPECT_EQ(editor->driverKey(),
+              key(QStringLiteral("SELECT ID_KIEROWCA FROM KIEROWCY WHERE NAZWISKO = 'Wójcik'")));
+    EXPECT_EQ(editor->edNaczepa->text(), "EL 7N21");
+    script.then(QStringLiteral("TfrmNaczepy"), choose(QStringLiteral("EL 7N24")));
+    editor->acNaczepa->trigger();
+    EXPECT_EQ(editor->edNaczepa->text(), "EL 7N24");
 
     // "Więcej..." by the client: a new client added in the contractors'
     // register is chosen at once.
