@@ -16,5 +16,5 @@ TfrmAddEditTerminy::TfrmAddEditTerminy(QWidget *owner, int key, QDate day)
     lblHeader->setText(QStringLiteral("Termin"));
     lblHeaderDescription->setText(
         QStringLiteral("Dzień, godzina (albo cały dzień) i to, o czym przypomnieć."));
-    resize(460, 260);
+    resize(560, 260);
 }

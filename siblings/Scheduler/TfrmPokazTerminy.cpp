@@ -14,5 +14,5 @@ TfrmPokazTerminy::TfrmPokazTerminy(QWidget *owner, Mode, int)
     lblHeader->setText(QStringLiteral("Terminy na dziś"));
     lblHeaderDescription->setText(QStringLiteral(
         "Twoje terminy na dziś i zaległe, jeszcze niewykonane. Wykonane znikają z listy."));
-    resize(760, 420);
+    resize(860, 420);
 }

@@ -45,7 +45,7 @@ TfrmTerminarz::TfrmTerminarz(QWidget *owner, std::shared_ptr<QDate> firstDay)
     connect(calTerminarz, &QCalendarWidget::currentPageChanged, this,
             &TfrmTerminarz::pageChanged);
     connect(calTerminarz, &QCalendarWidget::clicked, this, &TfrmTerminarz::dayClicked);
-    resize(1000, 520);
+    resize(1180, 540);
 }
 
 QDate TfrmTerminarz::newReminderDay() const

@@ -6,8 +6,23 @@
 #include "ShotBook.h"
 #include "Shots.h"
 #include "TListView.h"
+#include "TfrmAddEditKartyDrogowe.h"
 #include "TfrmAddEditKierowcy.h"
+#include "TfrmAddEditKontrahenci.h"
+#include "TfrmAddEditMiejsca.h"
+#include "TfrmAddEditMiejscowosci.h"
+#include "TfrmAddEditNaczepy.h"
+#include "TfrmAddEditPojazdy.h"
+#include "TfrmAddEditTerminy.h"
+#include "TfrmKartyDrogowe.h"
 #include "TfrmKierowcy.h"
+#include "TfrmKontrahenci.h"
+#include "TfrmMiejsca.h"
+#include "TfrmMiejscowosci.h"
+#include "TfrmNaczepy.h"
+#include "TfrmPojazdy.h"
+#include "TfrmPokazTerminy.h"
+#include "TfrmTerminarz.h"
 #include "Transaction.h"
 
 #include <QApplication>
@@ -79,8 +94,30 @@ std::unique_ptr<QWidget> editorShot(int key)
 
 void addSiblingShots(ShotBook &book)
 {
-    book.add(QStringLiteral("frmKierowcy"),
-             [](ShotContext &) { return registerShot<TfrmKierowcy>(2); });
-    book.add(QStringLiteral("frmAddEditKierowcy"),
-             [](ShotContext &) { return editorShot<TfrmAddEditKierowcy>(3); });
+    const auto add = [&](const char *name, std::function<std::unique_ptr<QWidget>()> make) {
+        book.add(QLatin1String(name), [make](ShotContext &) { return make(); });
+    };
+    add("frmKierowcy", [] { return registerShot<TfrmKierowcy>(2); });
+    add("frmAddEditKierowcy", [] { return editorShot<TfrmAddEditKierowcy>(3); });
+    add("frmMechanicy", [] { return registerShot<TfrmMechanicy>(0); });
+    add("frmKontrahenci", [] { return registerShot<TfrmKontrahenci>(4); });
+    add("frmAddEditKontrahenci", [] { return editorShot<TfrmAddEditKontrahenci>(3); });
+    add("frmPojazdy", [] { return registerShot<TfrmPojazdy>(1); });
+    add("frmAddEditPojazdy", [] { return editorShot<TfrmAddEditPojazdy>(1); });
+    add("frmNaczepy", [] { return registerShot<TfrmNaczepy>(1); });
+    add("frmAddEditNaczepy", [] { return editorShot<TfrmAddEditNaczepy>(2); });
+    add("frmMiejsca", [] { return registerShot<TfrmMiejsca>(3); });
+    add("frmAddEditMiejsca", [] { return editorShot<TfrmAddEditMiejsca>(19); });
+    add("frmMiejscowosci", [] { return registerShot<TfrmMiejscowosci>(5); });
+    add("frmAddEditMiejscowosci", [] { return editorShot<TfrmAddEditMiejscowosci>(2); });
+    add("frmKartyDrogowe", [] { return registerShot<TfrmKartyDrogowe>(3); });
+    add("frmAddEditKartyDrogowe", [] { return editorShot<TfrmAddEditKartyDrogowe>(1); });
+    add("frmTerminarz", [] { return registerShot<TfrmTerminarz>(1); });
+    add("frmPokazTerminy", [] { return registerShot<TfrmPokazTerminy>(0); });
+    add("frmAddEditTerminy", [] {
+        return onDemo([] {
+            return std::unique_ptr<QWidget>(
+                TfrmRODefault::create<TfrmAddEditTerminy>(nullptr, 3, QDate::currentDate()));
+        });
+    });
 }
