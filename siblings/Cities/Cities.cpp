@@ -42,11 +42,8 @@ TableRecordEditing<TMiastaObj>::Definition Cities::editing()
         {text(u"edKod"_s, u"Kod pocztowy"_s, 0, 12), &T::KOD},
         {choice(u"cbKraj"_s, u"Kraj"_s, 0, Countries::choices(), true), &T::IDKRAJU},
     };
-    d.checks = {[](const T &city, Connection &connection) -> Problem {
-        const QString problem = Countries::postalCodeProblem(connection, city.IDKRAJU, city.KOD);
-        if (problem.isEmpty())
-            return std::nullopt;
-        return FieldProblem{u"edKod"_s, problem};
+    d.checks = {[](const T &city, Connection &connection) {
+        return Countries::postalCodeField(connection, city.IDKRAJU, city.KOD);
     }};
     d.defaults = [](T &city, Connection &connection) {
         city.IDKRAJU = Countries::polandKey(connection);

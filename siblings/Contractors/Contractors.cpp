@@ -132,10 +132,8 @@ Problem Contractors::check(const TKontrahenciObj &contractor, Connection &connec
         if (const QString problem = Nip::problem(contractor.NIP); !problem.isEmpty())
             return FieldProblem{u"edNip"_s, problem};
     }
-    if (const QString problem
-        = Countries::postalCodeProblem(connection, contractor.ID_KRAJU, contractor.KOD);
-        !problem.isEmpty())
-        return FieldProblem{u"edKod"_s, problem};
+    if (Problem code = Countries::postalCodeField(connection, contractor.ID_KRAJU, contractor.KOD))
+        return code;
     if (!contractor.POLE1.isEmpty()) {
         if (const QString problem = BankAccount::problem(contractor.POLE1); !problem.isEmpty())
             return FieldProblem{u"edRachunek"_s, problem};

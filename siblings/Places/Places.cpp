@@ -46,12 +46,8 @@ TableRecordEditing<TMiejscaObj>::Definition Places::editing()
         {choice(u"cbKraj"_s, u"Kraj"_s, 0, Countries::choices(), true), &T::ID_KRAJU},
         {text(u"edUwagi"_s, u"Uwagi"_s, 0, 255), &T::UWAGI},
     };
-    d.checks = {[](const T &place, Connection &connection) -> Problem {
-        const QString problem
-            = Countries::postalCodeProblem(connection, place.ID_KRAJU, place.KOD);
-        if (problem.isEmpty())
-            return std::nullopt;
-        return FieldProblem{u"edKod"_s, problem};
+    d.checks = {[](const T &place, Connection &connection) {
+        return Countries::postalCodeField(connection, place.ID_KRAJU, place.KOD);
     }};
     d.defaults = [](T &place, Connection &connection) {
         place.ID_KRAJU = Countries::polandKey(connection);

@@ -59,11 +59,10 @@ TableRecordEditing<TNaczepyObj>::Definition Trailers::editing()
         {integer(u"seIlOsi"_s, u"Liczba osi"_s, Size, 0, 9), &T::IL_OSI},
         {text(u"edOpony"_s, u"Opony"_s, Size, 60), &T::OPONY},
     };
-    d.checks = {[](const T &trailer, Connection &connection) -> Problem {
-        if (Problem taken = Fleet::registrationProblem(connection, u"NACZEPY"_s, u"ID_NACZEPY"_s,
-                                                       trailer.ID_NACZEPY, trailer.NR_REJ))
-            return taken;
-        return Fleet::yearProblem(trailer.ROK_PROD);
+    d.checks = {[](const T &trailer, Connection &connection) {
+        return Fleet::registrationOrYearProblem(connection, u"NACZEPY"_s, u"ID_NACZEPY"_s,
+                                                trailer.ID_NACZEPY, trailer.NR_REJ,
+                                                trailer.ROK_PROD);
     }};
     d.beforeSave = [](T &trailer, Connection &) { trailer.NR_REJ = trailer.NR_REJ.toUpper(); };
     return d;

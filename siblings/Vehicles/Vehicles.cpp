@@ -77,11 +77,10 @@ TableRecordEditing<TPojazdyObj>::Definition Vehicles::editing()
 
 Problem Vehicles::check(const TPojazdyObj &vehicle, Connection &connection)
 {
-    if (Problem taken = Fleet::registrationProblem(connection, u"POJAZDY"_s, u"ID_POJAZDU"_s,
-                                                   vehicle.ID_POJAZDU, vehicle.NR_REJ))
-        return taken;
-    if (Problem year = Fleet::yearProblem(vehicle.ROK_PROD))
-        return year;
+    if (Problem problem = Fleet::registrationOrYearProblem(connection, u"POJAZDY"_s,
+                                                           u"ID_POJAZDU"_s, vehicle.ID_POJAZDU,
+                                                           vehicle.NR_REJ, vehicle.ROK_PROD))
+        return problem;
     if (vehicle.DEF_KIEROWCA != 0 && vehicle.DEF_KIEROWCA == vehicle.DEF_ZMIENNIK)
         return FieldProblem{u"cbDefZmiennik"_s,
                             u"Zmiennikiem nie może być sam kierowca domyślny: wybierz innego "

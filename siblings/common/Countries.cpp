@@ -16,19 +16,22 @@ int Countries::polandKey(Connection &connection)
     return st.integer(0);
 }
 
-QString Countries::postalCodeProblem(Connection &connection, int countryKey, const QString &code)
+Problem Countries::postalCodeField(Connection &connection, int countryKey, const QString &code)
 {
     if (countryKey == 0 || code.isEmpty())
-        return QString();
+        return std::nullopt;
     Statement st(connection);
     st.add(QStringLiteral("SELECT SYMBOL, NAZWA, KOD_POCZTOWY_MASKA FROM KRAJE"));
     st.add(QStringLiteral("WHERE ID_KRAJU = :aID_KRAJU"));
     st.bind(QStringLiteral("aID_KRAJU"), countryKey);
     st.exec();
     if (st.atEnd())
-        return QString();
+        return std::nullopt;
     QString mask = st.string(2);
     if (mask.isEmpty() && st.string(0) == QLatin1String("PL"))
         mask = PostalCode::PolishMask;
-    return PostalCode::problem(code, mask, st.string(1));
+    const QString problem = PostalCode::problem(code, mask, st.string(1));
+    if (problem.isEmpty())
+        return std::nullopt;
+    return FieldProblem{QStringLiteral("edKod"), problem};
 }

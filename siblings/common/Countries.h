@@ -1,6 +1,7 @@
 #pragma once
 
 #include "Choices.h"
+#include "EditorFields.h"
 
 #include <QString>
 
@@ -15,10 +16,10 @@ ChoiceSource choices();
 // The key of Poland (SYMBOL "PL"); 0 when the table has none.
 int polandKey(Connection &connection);
 
-// What is wrong with a postal code in a country: it must follow the
-// country's mask, Poland's NN-NNN also when its mask is not filled in.
-// Nothing is checked without a country, a mask or a code. A database
-// failure throws DbError.
-QString postalCodeProblem(Connection &connection, int countryKey, const QString &code);
+// What is wrong with a postal code (the editors' field "edKod") in a
+// country: it must follow the country's mask, Poland's NN-NNN also when its
+// mask is not filled in. Nothing is checked without a country, a mask or a
+// code. A database failure throws DbError.
+Problem postalCodeField(Connection &connection, int countryKey, const QString &code);
 
 } // namespace Countries

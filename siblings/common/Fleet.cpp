@@ -22,8 +22,9 @@ ChoiceSource Fleet::trailers()
     return Choices::fromQuery(u"SELECT ID_NACZEPY, NR_REJ FROM NACZEPY ORDER BY NR_REJ"_s);
 }
 
-Problem Fleet::registrationProblem(Connection &connection, const QString &table,
-                                   const QString &key, int ownKey, const QString &registration)
+Problem Fleet::registrationOrYearProblem(Connection &connection, const QString &table,
+                                         const QString &key, int ownKey,
+                                         const QString &registration, int year)
 {
     // Table and key names come from the program; the registration is bound.
     Statement st(connection);
@@ -33,15 +34,10 @@ Problem Fleet::registrationProblem(Connection &connection, const QString &table,
     st.bind(u"aNR_REJ"_s, registration.trimmed());
     st.bind(u"aKey"_s, ownKey);
     st.exec();
-    if (st.integer(0) == 0)
-        return std::nullopt;
-    return FieldProblem{u"edNrRej"_s,
-                        u"Numer rejestracyjny %1 ma już inny pojazd tego rejestru; sprawdź "
-                        "numer albo popraw tamten zapis."_s.arg(registration.trimmed())};
-}
-
-Problem Fleet::yearProblem(int year)
-{
+    if (st.integer(0) != 0)
+        return FieldProblem{u"edNrRej"_s,
+                            u"Numer rejestracyjny %1 ma już inny pojazd tego rejestru; sprawdź "
+                            "numer albo popraw tamten zapis."_s.arg(registration.trimmed())};
     const int latest = QDate::currentDate().year() + 1;
     if (year == 0 || (year >= 1950 && year <= latest))
         return std::nullopt;

@@ -19,11 +19,10 @@ ChoiceSource vehicles();
 ChoiceSource trailers();
 
 // A registration already given to another record of the table (letter
-// case and blanks around ignored). A database failure throws DbError.
-Problem registrationProblem(Connection &connection, const QString &table, const QString &key,
-                            int ownKey, const QString &registration);
-
-// A year of production must be plausible; 0 means not given.
-Problem yearProblem(int year);
+// case and blanks around ignored), then a year of production that is not
+// plausible (0 means not given). A database failure throws DbError.
+Problem registrationOrYearProblem(Connection &connection, const QString &table,
+                                  const QString &key, int ownKey, const QString &registration,
+                                  int year);
 
 } // namespace Fleet
