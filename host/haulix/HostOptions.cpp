@@ -21,7 +21,8 @@ std::optional<HostOptions> HostOptions::parse(const QStringList &arguments, QStr
         } else if (argument == QLatin1String("--report")) {
             options.partnersReport = true;
         } else if (argument == QLatin1String("--module") && hasValue) {
-            const std::optional<SiblingRegister> sibling = SiblingRegister::named(arguments.at(++i));
+            const std::optional<SiblingRegister> sibling
+                = SiblingRegister::named(arguments.at(++i));
             if (!sibling) {
                 error = QStringLiteral("Nieznany moduł: %1\nModuły: %2")
                             .arg(arguments.at(i),

@@ -34,8 +34,9 @@ int keyByRegistration(Connection &connection, const QString &table, const QStrin
 void nameCrew(T &card, Connection &connection)
 {
     const TKierowcyObj driver = recordByKey<TKierowcyObj>(connection, card.IDKIEROWCA);
-    card.KIEROWCA = driver.ID_KIEROWCA == 0 ? QString()
-                                            : QString(driver.IMIE + u' ' + driver.NAZWISKO).trimmed();
+    card.KIEROWCA = driver.ID_KIEROWCA == 0
+        ? QString()
+        : QString(driver.IMIE + u' ' + driver.NAZWISKO).trimmed();
     card.REJ_POJAZD = recordByKey<TPojazdyObj>(connection, card.IDPOJAZD).NR_REJ;
     card.REJ_NACZEPA = recordByKey<TNaczepyObj>(connection, card.IDNACZEPA).NR_REJ;
 }

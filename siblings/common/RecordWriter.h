@@ -57,7 +57,9 @@ bool update(const Obj &record)
 {
     const auto &d = Obj::description();
     Statement st(record.connection());
-    for (const QString &line : TableStatements::updateLines(d.info.table, d.columnNames(), d.info.key))
+    const QStringList lines
+        = TableStatements::updateLines(d.info.table, d.columnNames(), d.info.key);
+    for (const QString &line : lines)
         st.add(line);
     st.bind(QStringLiteral("a") + d.info.key, record.*(d.keyField));
     record.bindColumns(st);

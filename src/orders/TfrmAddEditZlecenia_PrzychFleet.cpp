@@ -27,9 +27,10 @@ void TfrmAddEditZlecenia_Przych::acPojazdExecute()
     const TKierowcyObj driver = TKierowcyObj(connection).SelectById(vehicle.DEF_KIEROWCA);
     m_driverKey = driver.ID_KIEROWCA;
     ceKierowca->setText(m_driverKey == 0 ? QString() : driver.IMIE + u' ' + driver.NAZWISKO);
-    if (vehicle.DEF_NACZEPA != 0)
-        edNaczepa->setText(
-            TNaczepyObj(connection).SelectById(vehicle.DEF_NACZEPA).NR_REJ.left(RegistrationLength));
+    if (vehicle.DEF_NACZEPA != 0) {
+        const TNaczepyObj trailer = TNaczepyObj(connection).SelectById(vehicle.DEF_NACZEPA);
+        edNaczepa->setText(trailer.NR_REJ.left(RegistrationLength));
+    }
 }
 
 void TfrmAddEditZlecenia_Przych::acNaczepaExecute()

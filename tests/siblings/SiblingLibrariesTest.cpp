@@ -65,13 +65,15 @@ protected:
 TEST_F(SiblingLibraries, EveryLibraryExportsEveryEntryOfItsRow)
 {
     const std::pair<const char *, QStringList> rows[] = {
-        {"Drivers", {"Run_Kierowcy", "Run_Mechanicy", "Run_WybierzKierowcy", "Run_WybierzMechanicy"}},
+        {"Drivers",
+         {"Run_Kierowcy", "Run_Mechanicy", "Run_WybierzKierowcy", "Run_WybierzMechanicy"}},
         {"Places", {"Run_Miejsca", "Run_WybierzMiejsca"}},
         {"Cities", {"Run_Miasta", "Run_WybierzMiasta"}},
         {"Vehicles", {"Run_Pojazdy", "Run_WybierzPojazd"}},
         {"Trailers", {"Run_Naczepy", "Run_WybierzNaczepy"}},
         {"Contractors",
-         {"Run_Kontrahenci", "Run_WybierzKontrahenci", "Run_AddKontrahenci", "Run_EditKontrahenci"}},
+         {"Run_Kontrahenci", "Run_WybierzKontrahenci", "Run_AddKontrahenci",
+          "Run_EditKontrahenci"}},
         {"RoadCards", {"Run_EdytujKarte", "Run_GenerujKarte", "Run_KartyDrogowe"}},
         {"Scheduler", {"Run_Terminarz", "Run_PokazTerminy"}},
     };
@@ -154,8 +156,8 @@ TEST_F(SiblingLibraries, TheOrderEditorsPickersFillTheirFieldsFromTheSiblings)
         QSettings settings(ini, QSettings::IniFormat);
         settings.setValue(QStringLiteral("AppPath"), QStringLiteral(HAULIX_APP_PATH "/"));
     }
-    auto editor = TfrmRODefault::create<TfrmAddEditZlecenia_Przych>(nullptr, 0,
-                                                                    TfrmAddEditZlecenia_Przych::Add);
+    auto editor = TfrmRODefault::create<TfrmAddEditZlecenia_Przych>(
+        nullptr, 0, TfrmAddEditZlecenia_Przych::Add);
     WindowScript script;
     script.then(QStringLiteral("TfrmKierowcy"), choose(QStringLiteral("Lewan")));
     editor->acKierowca->trigger();
@@ -209,6 +211,7 @@ TEST_F(SiblingLibraries, TheSchedulerButtonsAndTheRoadCardEditorOpenTheirWindows
 
     script.then(QStringLiteral("TfrmAddEditKartyDrogowe"),
                 [](QWidget &window) { WindowScript::click(window, QStringLiteral("btnOk")); });
-    EXPECT_TRUE(launcher.EditRoadCard(key(QStringLiteral("SELECT MIN(ID_KARTY_DR) FROM KARTY_DR"))));
+    const int firstCard = key(QStringLiteral("SELECT MIN(ID_KARTY_DR) FROM KARTY_DR"));
+    EXPECT_TRUE(launcher.EditRoadCard(firstCard));
     EXPECT_TRUE(script.finished()) << script.seen().join(u' ').toStdString();
 }
