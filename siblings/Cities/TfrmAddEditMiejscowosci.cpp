@@ -15,5 +15,5 @@ TfrmAddEditMiejscowosci::TfrmAddEditMiejscowosci(QWidget *owner, int key)
     setWindowTitle(QStringLiteral("Dodaj/popraw miejscowość"));
     lblHeader->setText(QStringLiteral("Dodawanie/Poprawianie miejscowości"));
     lblHeaderDescription->setText(QStringLiteral("Nazwa miasta, jego kod pocztowy i kraj."));
-    resize(420, 260);
+    resize(500, 260);
 }

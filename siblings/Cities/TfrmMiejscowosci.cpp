@@ -14,7 +14,6 @@ TfrmMiejscowosci::TfrmMiejscowosci(QWidget *owner, Mode mode, int currentKey)
     lblHeader->setText(QStringLiteral("Miejscowości"));
     lblHeaderDescription->setText(
         QStringLiteral("Miasta tras zleceń: nazwa, kod pocztowy i kraj."));
-    resize(620, 520);
 }
 
 std::unique_ptr<TfrmRecordEditor> TfrmMiejscowosci::createEditor(int key)
