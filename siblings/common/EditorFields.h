@@ -17,7 +17,7 @@ enum class FieldKind {
     Flag,      // check box, 1 when checked
 };
 
-struct FieldSpec
+struct EditorField
 {
     QString name;      // the widget's objectName: "edNazwisko", "cbKraj"
     QString caption;   // the label beside it, the check box's own text for a flag
@@ -42,7 +42,7 @@ struct FieldGroup
 // A field whose value cannot be saved, and what to tell the user.
 struct FieldProblem
 {
-    QString field;   // FieldSpec::name
+    QString field;   // EditorField::name
     QString message;
 };
 
@@ -51,70 +51,70 @@ using Problem = std::optional<FieldProblem>;
 // Field descriptions, one line each in the editors' definitions.
 namespace Fields {
 
-inline FieldSpec field(const QString &name, const QString &caption, FieldKind kind, int group)
+inline EditorField make(const QString &name, const QString &caption, FieldKind kind, int group)
 {
-    FieldSpec spec;
-    spec.name = name;
-    spec.caption = caption;
-    spec.kind = kind;
-    spec.group = group;
-    return spec;
+    EditorField field;
+    field.name = name;
+    field.caption = caption;
+    field.kind = kind;
+    field.group = group;
+    return field;
 }
 
-inline FieldSpec text(const QString &name, const QString &caption, int group, int maxLength,
+inline EditorField text(const QString &name, const QString &caption, int group, int maxLength,
                       bool required = false)
 {
-    FieldSpec spec = field(name, caption, FieldKind::Text, group);
-    spec.maxLength = maxLength;
-    spec.required = required;
-    return spec;
+    EditorField field = make(name, caption, FieldKind::Text, group);
+    field.maxLength = maxLength;
+    field.required = required;
+    return field;
 }
 
-inline FieldSpec integer(const QString &name, const QString &caption, int group, int minimum,
+inline EditorField integer(const QString &name, const QString &caption, int group, int minimum,
                          int maximum)
 {
-    FieldSpec spec = field(name, caption, FieldKind::Integer, group);
-    spec.minimum = minimum;
-    spec.maximum = maximum;
-    return spec;
+    EditorField field = make(name, caption, FieldKind::Integer, group);
+    field.minimum = minimum;
+    field.maximum = maximum;
+    return field;
 }
 
-inline FieldSpec decimal(const QString &name, const QString &caption, int group, double maximum,
+inline EditorField decimal(const QString &name, const QString &caption, int group, double maximum,
                          int decimals = 2)
 {
-    FieldSpec spec = field(name, caption, FieldKind::Decimal, group);
-    spec.maximum = maximum;
-    spec.decimals = decimals;
-    return spec;
+    EditorField field = make(name, caption, FieldKind::Decimal, group);
+    field.maximum = maximum;
+    field.decimals = decimals;
+    return field;
 }
 
-inline FieldSpec date(const QString &name, const QString &caption, int group,
+inline EditorField date(const QString &name, const QString &caption, int group,
                       bool required = false)
 {
-    FieldSpec spec = field(name, caption, FieldKind::Date, group);
-    spec.required = required;
-    return spec;
+    EditorField field = make(name, caption, FieldKind::Date, group);
+    field.required = required;
+    return field;
 }
 
 // noneChoice: the list starts with an empty entry that stands for key 0.
-inline FieldSpec choice(const QString &name, const QString &caption, int group,
+inline EditorField choice(const QString &name, const QString &caption, int group,
                         ChoiceSource source, bool noneChoice = false, bool required = false)
 {
-    FieldSpec spec = field(name, caption, FieldKind::Choice, group);
-    spec.choices = std::move(source);
-    spec.noneChoice = noneChoice;
-    spec.required = required;
-    return spec;
+    EditorField field = make(name, caption, FieldKind::Choice, group);
+    field.choices = std::move(source);
+    field.noneChoice = noneChoice;
+    field.required = required;
+    return field;
 }
 
 // inverted: the column says the opposite of the check box (NIEAKTYWNY
 // under "Aktywny").
-inline FieldSpec flag(const QString &name, const QString &caption, int group,
+inline EditorField flag(const QString &name, const QString &caption, int group,
                       bool inverted = false)
 {
-    FieldSpec spec = field(name, caption, FieldKind::Flag, group);
-    spec.inverted = inverted;
-    return spec;
+    EditorField field = make(name, caption, FieldKind::Flag, group);
+    field.inverted = inverted;
+    return field;
 }
 
 } // namespace Fields

@@ -17,10 +17,10 @@ int digitsOf(double maximum)
     return int(QString::number(std::llround(std::abs(maximum))).size());
 }
 
-QWidget *createChoice(const FieldSpec &spec, const std::vector<Choice> &choices, QWidget *parent)
+QWidget *createChoice(const EditorField &field, const std::vector<Choice> &choices, QWidget *parent)
 {
     auto *combo = new QComboBox(parent);
-    if (spec.noneChoice)
+    if (field.noneChoice)
         combo->addItem(QString(), 0);
     for (const Choice &choice : choices)
         combo->addItem(choice.text, choice.key);
@@ -30,29 +30,29 @@ QWidget *createChoice(const FieldSpec &spec, const std::vector<Choice> &choices,
 
 } // namespace
 
-QWidget *FieldWidgets::create(const FieldSpec &spec, const std::vector<Choice> &choices,
+QWidget *FieldWidgets::create(const EditorField &field, const std::vector<Choice> &choices,
                               QWidget *parent)
 {
     QWidget *widget = nullptr;
-    switch (spec.kind) {
+    switch (field.kind) {
     case FieldKind::Text: {
         auto *edit = new QLineEdit(parent);
-        edit->setMaxLength(spec.maxLength);
+        edit->setMaxLength(field.maxLength);
         widget = edit;
         break;
     }
     case FieldKind::Integer: {
         auto *edit = new TLimitedSpinEdit(parent);
-        edit->setRange(int(spec.minimum), int(spec.maximum));
-        edit->setMaxLength(digitsOf(spec.maximum) + (spec.minimum < 0 ? 1 : 0));
+        edit->setRange(int(field.minimum), int(field.maximum));
+        edit->setMaxLength(digitsOf(field.maximum) + (field.minimum < 0 ? 1 : 0));
         widget = edit;
         break;
     }
     case FieldKind::Decimal: {
         auto *edit = new TLimitedFloatEdit(parent);
-        edit->setDecimals(spec.decimals);
-        edit->setRange(spec.minimum, spec.maximum);
-        edit->setMaxLength(digitsOf(spec.maximum) + spec.decimals + 1);
+        edit->setDecimals(field.decimals);
+        edit->setRange(field.minimum, field.maximum);
+        edit->setMaxLength(digitsOf(field.maximum) + field.decimals + 1);
         widget = edit;
         break;
     }
@@ -60,19 +60,19 @@ QWidget *FieldWidgets::create(const FieldSpec &spec, const std::vector<Choice> &
         widget = new TDateEdit(parent);
         break;
     case FieldKind::Choice:
-        widget = createChoice(spec, choices, parent);
+        widget = createChoice(field, choices, parent);
         break;
     case FieldKind::Flag:
-        widget = new QCheckBox(spec.caption, parent);
+        widget = new QCheckBox(field.caption, parent);
         break;
     }
-    widget->setObjectName(spec.name);
+    widget->setObjectName(field.name);
     return widget;
 }
 
-void FieldWidgets::show(QWidget *widget, const FieldSpec &spec, const QVariant &value)
+void FieldWidgets::show(QWidget *widget, const EditorField &field, const QVariant &value)
 {
-    switch (spec.kind) {
+    switch (field.kind) {
     case FieldKind::Text:
         static_cast<QLineEdit *>(widget)->setText(value.toString());
         break;
@@ -99,14 +99,14 @@ void FieldWidgets::show(QWidget *widget, const FieldSpec &spec, const QVariant &
         break;
     }
     case FieldKind::Flag:
-        static_cast<QCheckBox *>(widget)->setChecked((value.toInt() != 0) != spec.inverted);
+        static_cast<QCheckBox *>(widget)->setChecked((value.toInt() != 0) != field.inverted);
         break;
     }
 }
 
-QVariant FieldWidgets::value(const QWidget *widget, const FieldSpec &spec)
+QVariant FieldWidgets::value(const QWidget *widget, const EditorField &field)
 {
-    switch (spec.kind) {
+    switch (field.kind) {
     case FieldKind::Text:
         return static_cast<const QLineEdit *>(widget)->text();
     case FieldKind::Integer:
@@ -120,7 +120,7 @@ QVariant FieldWidgets::value(const QWidget *widget, const FieldSpec &spec)
         return combo->currentIndex() < 0 ? 0 : combo->currentData().toInt();
     }
     case FieldKind::Flag:
-        return static_cast<const QCheckBox *>(widget)->isChecked() != spec.inverted ? 1 : 0;
+        return static_cast<const QCheckBox *>(widget)->isChecked() != field.inverted ? 1 : 0;
     }
     return QVariant();
 }

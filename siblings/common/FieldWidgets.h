@@ -10,8 +10,8 @@ class QWidget;
 // of it (see RecordEditing::value for the types).
 namespace FieldWidgets {
 
-QWidget *create(const FieldSpec &spec, const std::vector<Choice> &choices, QWidget *parent);
-void show(QWidget *widget, const FieldSpec &spec, const QVariant &value);
-QVariant value(const QWidget *widget, const FieldSpec &spec);
+QWidget *create(const EditorField &field, const std::vector<Choice> &choices, QWidget *parent);
+void show(QWidget *widget, const EditorField &field, const QVariant &value);
+QVariant value(const QWidget *widget, const EditorField &field);
 
 } // namespace FieldWidgets

@@ -15,7 +15,7 @@ public:
     virtual ~RecordEditing() = default;
 
     virtual const std::vector<FieldGroup> &groups() const = 0;
-    virtual const std::vector<FieldSpec> &fields() const = 0;
+    virtual const std::vector<EditorField> &fields() const = 0;
 
     // Key 0 starts a new record with its defaults. False when the record is
     // not there (any more).
@@ -35,7 +35,7 @@ public:
 
     int indexOf(const QString &name) const
     {
-        const std::vector<FieldSpec> &all = fields();
+        const std::vector<EditorField> &all = fields();
         for (std::size_t i = 0; i < all.size(); ++i) {
             if (all[i].name == name)
                 return int(i);

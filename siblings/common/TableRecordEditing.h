@@ -15,7 +15,7 @@
 template <class Obj>
 struct BoundField
 {
-    FieldSpec spec;
+    EditorField field;
     typename Column<Obj>::Field member;
 };
 
@@ -43,15 +43,15 @@ public:
     TableRecordEditing(Connection &connection, Definition definition)
         : m_connection(connection), m_definition(std::move(definition)), m_record(connection)
     {
-        for (const BoundField<Obj> &field : m_definition.fields)
-            m_specs.push_back(field.spec);
+        for (const BoundField<Obj> &bound : m_definition.fields)
+            m_layout.push_back(bound.field);
     }
 
     Obj &record() { return m_record; }
     const Obj &record() const { return m_record; }
 
     const std::vector<FieldGroup> &groups() const override { return m_definition.groups; }
-    const std::vector<FieldSpec> &fields() const override { return m_specs; }
+    const std::vector<EditorField> &fields() const override { return m_layout; }
 
     bool load(int key) override
     {
@@ -92,10 +92,10 @@ public:
 
     Problem check() const override
     {
-        for (std::size_t i = 0; i < m_specs.size(); ++i) {
-            if (m_specs[i].required && isEmpty(int(i)))
-                return FieldProblem{m_specs[i].name,
-                                    QStringLiteral("Uzupełnij pole %1.").arg(m_specs[i].caption)};
+        for (std::size_t i = 0; i < m_layout.size(); ++i) {
+            if (m_layout[i].required && isEmpty(int(i)))
+                return FieldProblem{m_layout[i].name,
+                                    QStringLiteral("Uzupełnij pole %1.").arg(m_layout[i].caption)};
         }
         for (const Check &check : m_definition.checks) {
             if (Problem problem = check(m_record, m_connection))
@@ -143,7 +143,7 @@ private:
     bool isEmpty(int field) const
     {
         const QVariant v = value(field);
-        switch (m_specs[std::size_t(field)].kind) {
+        switch (m_layout[std::size_t(field)].kind) {
         case FieldKind::Text: return v.toString().trimmed().isEmpty();
         case FieldKind::Choice: return v.toInt() == 0;
         case FieldKind::Date: return v.value<DateTime>().isNull();
@@ -153,6 +153,6 @@ private:
 
     Connection &m_connection;
     Definition m_definition;
-    std::vector<FieldSpec> m_specs;
+    std::vector<EditorField> m_layout;
     Obj m_record;
 };

@@ -63,21 +63,21 @@ void TfrmRecordEditor::buildFields()
     grid->setColumnStretch(1, 1);
 
     Connection *database = session().Database;
-    for (const FieldSpec &spec : m_editing->fields()) {
+    for (const EditorField &described : m_editing->fields()) {
         std::vector<Choice> choices;
-        if (spec.choices && database) {
+        if (described.choices && database) {
             try {
-                choices = spec.choices(*database);
+                choices = described.choices(*database);
             } catch (const DbError &error) {
                 Messages::error(error.message());
             }
         }
-        QWidget *widget = FieldWidgets::create(spec, choices, this);
-        QFormLayout *form = forms.at(std::size_t(spec.group));
-        if (spec.kind == FieldKind::Flag)
+        QWidget *widget = FieldWidgets::create(described, choices, this);
+        QFormLayout *form = forms.at(std::size_t(described.group));
+        if (described.kind == FieldKind::Flag)
             form->addRow(QString(), widget);
         else
-            form->addRow(spec.caption, widget);
+            form->addRow(described.caption, widget);
         m_widgets.push_back(widget);
     }
 }
@@ -90,16 +90,16 @@ QWidget *TfrmRecordEditor::field(const QString &name) const
 
 void TfrmRecordEditor::showRecord()
 {
-    const std::vector<FieldSpec> &specs = m_editing->fields();
-    for (std::size_t i = 0; i < specs.size(); ++i)
-        FieldWidgets::show(m_widgets[i], specs[i], m_editing->value(int(i)));
+    const std::vector<EditorField> &layout = m_editing->fields();
+    for (std::size_t i = 0; i < layout.size(); ++i)
+        FieldWidgets::show(m_widgets[i], layout[i], m_editing->value(int(i)));
 }
 
 void TfrmRecordEditor::takeValues()
 {
-    const std::vector<FieldSpec> &specs = m_editing->fields();
-    for (std::size_t i = 0; i < specs.size(); ++i)
-        m_editing->setValue(int(i), FieldWidgets::value(m_widgets[i], specs[i]));
+    const std::vector<EditorField> &layout = m_editing->fields();
+    for (std::size_t i = 0; i < layout.size(); ++i)
+        m_editing->setValue(int(i), FieldWidgets::value(m_widgets[i], layout[i]));
 }
 
 void TfrmRecordEditor::btnOkClick()
