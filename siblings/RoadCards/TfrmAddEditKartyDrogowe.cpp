@@ -1,7 +1,7 @@
 #include "TfrmAddEditKartyDrogowe.h"
 
 #include "DbError.h"
-#include "MessageService.h"
+#include "Failures.h"
 #include "RecordReader.h"
 #include "RoadCards.h"
 #include "SessionContext.h"
@@ -39,7 +39,8 @@ void TfrmAddEditKartyDrogowe::vehicleChosen()
         RoadCards::takeOverVehicle(record,
                                    recordByKey<TPojazdyObj>(record.connection(), record.IDPOJAZD));
     } catch (const DbError &error) {
-        Messages::error(error.message());
+        Failures::report(QStringLiteral("Nie udało się wczytać danych pojazdu."),
+                         error.message());
     }
     showRecord();
 }

@@ -2,8 +2,8 @@
 
 #include "ActionButton.h"
 #include "DbError.h"
+#include "Failures.h"
 #include "LVFrame.h"
-#include "MessageService.h"
 #include "Privileges.h"
 #include "RecordReader.h"
 #include "Reminders.h"
@@ -50,7 +50,7 @@ void TfrmTerminy::acWykonaneExecute()
         const bool done = recordByKey<TTerminyObj>(database, key).WYKONANE != 0;
         Reminders::setDone(database, key, !done);
     } catch (const DbError &error) {
-        Messages::error(error.message());
+        Failures::report(QStringLiteral("Nie udało się oznaczyć terminu."), error.message());
     }
     reloadAndSelect(key);
 }

@@ -2,6 +2,7 @@
 
 #include "DbError.h"
 #include "DefaultWindow.h"
+#include "Failures.h"
 #include "MessageService.h"
 #include "Privileges.h"
 #include "SessionContext.h"
@@ -26,9 +27,11 @@ std::int32_t guarded(std::int32_t fallback, Work &&work)
     try {
         return work();
     } catch (const DbError &error) {
-        Messages::error(error.message());
+        Failures::report(QStringLiteral("Okno modułu zamknięto po błędzie bazy danych."),
+                         error.message());
     } catch (const std::exception &error) {
-        Messages::error(QString::fromLocal8Bit(error.what()));
+        Failures::report(QStringLiteral("Okno modułu zamknięto po błędzie."),
+                         QString::fromLocal8Bit(error.what()));
     }
     return fallback;
 }

@@ -2,7 +2,7 @@
 
 #include "DateTime.h"
 #include "DbError.h"
-#include "MessageService.h"
+#include "Failures.h"
 #include "RecordEditing.h"
 #include "RecordReader.h"
 #include "RecordWriter.h"
@@ -126,7 +126,9 @@ public:
             } catch (const DbError &error) {
                 if (inserted)
                     m_record.*(d.keyField) = 0;
-                Messages::error(error.message());
+                Failures::report(QStringLiteral("Nie udało się zapisać zmian: baza danych odrzuciła "
+                                                 "zapis. Nic nie zostało zapisane."),
+                                 error.message());
                 return 0;
             }
         }

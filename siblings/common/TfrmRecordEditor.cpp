@@ -1,6 +1,7 @@
 #include "TfrmRecordEditor.h"
 
 #include "DbError.h"
+#include "Failures.h"
 #include "FieldWidgets.h"
 #include "MessageService.h"
 #include "SessionContext.h"
@@ -28,7 +29,8 @@ TfrmRecordEditor::TfrmRecordEditor(QWidget *owner, std::unique_ptr<RecordEditing
     try {
         m_found = m_editing->load(key);
     } catch (const DbError &error) {
-        Messages::error(error.message());
+        Failures::report(QStringLiteral("Nie udało się wczytać danych do edycji."),
+                         error.message());
     }
     if (m_found)
         showRecord();
@@ -69,7 +71,9 @@ void TfrmRecordEditor::buildFields()
             try {
                 choices = described.choices(*database);
             } catch (const DbError &error) {
-                Messages::error(error.message());
+                Failures::report(QStringLiteral("Nie udało się wczytać listy pola %1.")
+                                     .arg(described.caption),
+                                 error.message());
             }
         }
         QWidget *widget = FieldWidgets::create(described, choices, this);
@@ -109,7 +113,9 @@ void TfrmRecordEditor::btnOkClick()
     try {
         problem = m_editing->check();
     } catch (const DbError &error) {
-        Messages::error(error.message());
+        Failures::report(QStringLiteral("Nie udało się sprawdzić danych; nic nie zostało "
+                                        "zapisane."),
+                         error.message());
         return;
     }
     if (problem) {
@@ -119,7 +125,14 @@ void TfrmRecordEditor::btnOkClick()
             widget->setFocus();
         return;
     }
-    const int key = m_editing->save();
+    int key = 0;
+    try {
+        key = m_editing->save();
+    } catch (const DbError &error) {
+        Failures::report(QStringLiteral("Baza danych nie przyjęła zapisu; nic nie zostało "
+                                        "zapisane."),
+                         error.message());
+    }
     if (key == 0)
         return;   // the failure was shown; everything typed stays
     m_savedKey = key;

@@ -2,6 +2,7 @@
 
 #include "ActionButton.h"
 #include "DbError.h"
+#include "Failures.h"
 #include "LVFrame.h"
 #include "MessageService.h"
 #include "Privileges.h"
@@ -90,7 +91,7 @@ void TfrmRegister::LoadLVData()
             for (const RegisterModel::Row &row : m_model->rows(*database, filter))
                 list->addItem(row.texts.value(0), row.texts.mid(1), row.key);
         } catch (const DbError &error) {
-            Messages::error(error.message());
+            Failures::report(QStringLiteral("Nie udało się wczytać listy."), error.message());
         }
     }
     list->endUpdate();
@@ -163,7 +164,9 @@ void TfrmRegister::acUsunExecute()
     try {
         deletion = m_model->remove(*session().Database, key);
     } catch (const DbError &error) {
-        Messages::error(error.message());
+        Failures::report(QStringLiteral("Nie udało się usunąć wybranej pozycji; nic nie zostało "
+                                        "usunięte."),
+                         error.message());
         return;
     }
     if (deletion.outcome == RegisterModel::Deletion::Refused) {

@@ -10,6 +10,7 @@
 #include "TfrmAddEditKartyDrogowe.h"
 
 #include <QComboBox>
+#include <QFile>
 #include <QLineEdit>
 #include <QTest>
 
@@ -182,4 +183,33 @@ TEST_F(RoadCardsTest, ChoosingAVehicleFillsOnlyWhatTheCardLacks)
               "EL 7N21");
     EXPECT_EQ(static_cast<QLineEdit *>(editor->field(QStringLiteral("edUwagi")))->text(),
               "bez zmian");
+}
+
+TEST_F(RoadCardsTest, WhenTheOrderCannotPointAtTheCardNoCardIsSavedAndTheEditorStaysOpen)
+{
+    db.exec(QStringLiteral("CREATE EXCEPTION ZLECENIE_ZABLOKOWANE 'Zlecenie zablokowane'"));
+    db.exec(QStringLiteral("CREATE TRIGGER ZLECENIA_BLOKADA FOR ZLECENIA_PRZYCH BEFORE UPDATE AS "
+                           "BEGIN EXCEPTION ZLECENIE_ZABLOKOWANE; END"));
+    scriptedModalRunner().expect<TfrmAddEditKartyDrogowe>([&](TfrmAddEditKartyDrogowe &editor) {
+        type(editor.field(QStringLiteral("edUwagi")), QStringLiteral("Przez Stryków"));
+        scriptedMessages().expect();
+        click(editor.btnOk);
+        EXPECT_TRUE(editor.isVisible());
+        EXPECT_EQ(db.count(QStringLiteral("KARTY_DR")), 0);
+        EXPECT_EQ(static_cast<QLineEdit *>(editor.field(QStringLiteral("edUwagi")))->text(),
+                  "Przez Stryków");
+        click(editor.btnCancel);
+        return editor.result();
+    });
+    EXPECT_EQ(RoadCardEntries::generateCard(order, &db.connection(), &transaction), 0);
+    ASSERT_EQ(scriptedMessages().shown().size(), 1u);
+    EXPECT_EQ(scriptedMessages().shown()[0].caption, "Błąd");
+    EXPECT_TRUE(scriptedMessages().shown()[0].text.startsWith(
+        "Nie udało się zapisać zmian: baza danych odrzuciła zapis. Nic nie zostało zapisane."));
+    // The engine's own words are for the error log.
+    QFile log(db.directory() + QStringLiteral("/SQLErrors.ini"));
+    ASSERT_TRUE(log.open(QIODevice::ReadOnly));
+    EXPECT_TRUE(QString::fromUtf8(log.readAll()).contains("Zlecenie zablokowane"));
+    EXPECT_EQ(db.count(QStringLiteral("KARTY_DR")), 0);
+    EXPECT_EQ(TZlecenia_przychObj(db.connection()).SelectById(order).IDKARTYDR, 0);
 }
