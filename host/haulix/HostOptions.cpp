@@ -1,5 +1,7 @@
 #include "HostOptions.h"
 
+#include "SiblingRegisters.h"
+
 std::optional<HostOptions> HostOptions::parse(const QStringList &arguments, QString &error)
 {
     HostOptions options;
@@ -18,13 +20,27 @@ std::optional<HostOptions> HostOptions::parse(const QStringList &arguments, QStr
             }
         } else if (argument == QLatin1String("--report")) {
             options.partnersReport = true;
+        } else if (argument == QLatin1String("--module") && hasValue) {
+            const std::optional<SiblingRegister> sibling
+                = SiblingRegister::named(arguments.at(++i));
+            if (!sibling) {
+                error = QStringLiteral("Nieznany moduł: %1\nModuły: %2")
+                            .arg(arguments.at(i),
+                                 SiblingRegister::libraries().join(QStringLiteral(", ")));
+                return std::nullopt;
+            }
+            options.module = sibling->library;
         } else {
             error = QStringLiteral("Nieznany argument: %1\n"
                                    "Użycie: haulix [--db ŚCIEŻKA | --db host[/port]:ścieżka] "
-                                   "[--user ID] [--report]")
+                                   "[--user ID] [--report | --module MODUŁ]")
                         .arg(argument);
             return std::nullopt;
         }
+    }
+    if (options.partnersReport && !options.module.isEmpty()) {
+        error = QStringLiteral("--report i --module wykluczają się: host otwiera jedno okno.");
+        return std::nullopt;
     }
     return options;
 }

@@ -6,12 +6,15 @@
 #include <optional>
 
 // The command line of the haulix program:
-//   haulix [--db PATH | --db host[/port]:path] [--user ID] [--report]
+//   haulix [--db PATH | --db host[/port]:path] [--user ID] [--report | --module NAME]
 struct HostOptions
 {
     QString database;   // empty: the demo database
     int userId = 1;
     bool partnersReport = false;
+    // A sibling module whose register opens instead of the incoming orders
+    // (SiblingRegister::libraries()); empty for none.
+    QString module;
 
     // std::nullopt and a Polish message in error when the line is wrong.
     static std::optional<HostOptions> parse(const QStringList &arguments, QString &error);

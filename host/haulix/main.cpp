@@ -1,11 +1,14 @@
 // haulix: the suite's host as far as this module needs one. It opens the
-// database, loads Library/IncomingOrders and calls an entry point with the
-// user, the connection and the transaction, as the suite's host does.
+// database, loads Library/IncomingOrders (or, with --module, the library of a
+// sibling module, to set up its master data) and calls an entry point with
+// the user, the connection and the transaction, as the suite's host does.
 
 #include "Connection.h"
 #include "DbError.h"
 #include "DemoDatabase.h"
 #include "HostOptions.h"
+#include "SiblingEntryPoints.h"
+#include "SiblingRegisters.h"
 #include "ModuleEntryPoints.h"
 #include "Statement.h"
 #include "TerminationSignals.h"
@@ -96,20 +99,23 @@ int main(int argc, char **argv)
         return fail(e.message());
     }
 
-    const QString libraryPath
-        = QDir(QApplication::applicationDirPath())
-              .filePath(QStringLiteral("Library/") + QLatin1String(ModuleEntryPoints::LibraryName));
+    const std::optional<SiblingRegister> sibling = SiblingRegister::named(options->module);
+    const QString libraryName
+        = sibling ? sibling->library : QLatin1String(ModuleEntryPoints::LibraryName);
+    const QString libraryPath = QDir(QApplication::applicationDirPath())
+                                    .filePath(QStringLiteral("Library/") + libraryName);
     QLibrary module(libraryPath);
     if (!module.load()) {
         return fail(QStringLiteral("Nie można załadować modułu %1: %2")
                         .arg(libraryPath, module.errorString()));
     }
-    const char *entryName = options->partnersReport ? ModuleEntryPoints::PartnersReport
-                                                    : ModuleEntryPoints::IncomingOrders;
-    const auto entry = reinterpret_cast<ModuleEntry>(module.resolve(entryName));
+    const QByteArray entryName = sibling ? sibling->entry.toLatin1()
+        : options->partnersReport      ? QByteArray(ModuleEntryPoints::PartnersReport)
+                                       : QByteArray(ModuleEntryPoints::IncomingOrders);
+    const QFunctionPointer entry = module.resolve(entryName.constData());
     if (!entry) {
         return fail(QStringLiteral("Moduł %1 nie udostępnia funkcji %2.")
-                        .arg(module.fileName(), QLatin1String(entryName)));
+                        .arg(module.fileName(), QString::fromLatin1(entryName)));
     }
 
     const TerminationSignals terminationSignals;
@@ -119,7 +125,12 @@ int main(int argc, char **argv)
     Transaction transaction(connection);
     std::int32_t result = 0;
     try {
-        result = entry(options->userId, &connection, &transaction);
+        if (sibling && sibling->scheduler)
+            result = reinterpret_cast<SiblingSchedulerEntry>(entry)(options->userId, &connection,
+                                                                   &transaction, 0);
+        else
+            result = reinterpret_cast<ModuleEntry>(entry)(options->userId, &connection,
+                                                          &transaction);
         if (transaction.InTransaction())
             transaction.Commit();
     } catch (const DbError &e) {

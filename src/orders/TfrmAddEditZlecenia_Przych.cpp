@@ -119,6 +119,8 @@ void TfrmAddEditZlecenia_Przych::connectControls()
             &TfrmAddEditZlecenia_Przych::btnKlientMoreClick);
     connect(BitBtn1, &QPushButton::clicked, this, &TfrmAddEditZlecenia_Przych::BitBtn1Click);
     connect(acKierowca, &QAction::triggered, this, &TfrmAddEditZlecenia_Przych::acKierowcaExecute);
+    connect(acPojazd, &QAction::triggered, this, &TfrmAddEditZlecenia_Przych::acPojazdExecute);
+    connect(acNaczepa, &QAction::triggered, this, &TfrmAddEditZlecenia_Przych::acNaczepaExecute);
     connect(memOpisDod, &QPlainTextEdit::textChanged, this,
             &TfrmAddEditZlecenia_Przych::limitDescription);
 }

@@ -129,8 +129,10 @@ public:
 
     QLabel *lblPojazd;
     QLineEdit *edPojazd;
+    QAction *acPojazd;               // the vehicles' selection window
     QLabel *lblNaczepa;
     QLineEdit *edNaczepa;
+    QAction *acNaczepa;              // the trailers' selection window
     QLabel *lblKierowca;
     QLineEdit *ceKierowca;
     QAction *acKierowca;             // the driver field's button
@@ -176,6 +178,10 @@ private:
     void btnKlientMoreClick();
     void BitBtn1Click();
     void acKierowcaExecute();
+    // A vehicle brings its registration, its default driver (or none) and
+    // its default trailer; the fields stay free text.
+    void acPojazdExecute();
+    void acNaczepaExecute();
     void limitDescription();
 
     // Pricing: tariffs, price lists, cities and the route's distance.

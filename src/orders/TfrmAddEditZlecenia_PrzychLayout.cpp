@@ -183,8 +183,10 @@ void TfrmAddEditZlecenia_Przych::buildControls()
 
     edPojazd = text("edPojazd", 15, p);
     lblPojazd = caption(QStringLiteral("Pojazd"), edPojazd, p);
+    acPojazd = addPickerButton(edPojazd, QStringLiteral("acPojazd"));
     edNaczepa = text("edNaczepa", 15, p);
     lblNaczepa = caption(QStringLiteral("Naczepa"), edNaczepa, p);
+    acNaczepa = addPickerButton(edNaczepa, QStringLiteral("acNaczepa"));
     ceKierowca = text("ceKierowca", 45, p);
     lblKierowca = caption(QStringLiteral("Kierowca"), ceKierowca, p);
     acKierowca = addPickerButton(ceKierowca, QStringLiteral("acKierowca"));

@@ -96,3 +96,45 @@ TEST(Host, WithoutADisplayItSaysHowToRunHeadless)
     EXPECT_TRUE(errors.contains("Brak ekranu")) << errors.toStdString();
     EXPECT_TRUE(errors.contains("xvfb-run haulix"));
 }
+
+TEST(Host, AModuleItDoesNotKnowIsRefusedWithTheOnesItKnows)
+{
+    const HostRun run = runHost(Host, {QStringLiteral("--module"), QStringLiteral("Kierowcy")});
+    EXPECT_EQ(run.exitCode, 1);
+    EXPECT_TRUE(run.errors.contains("Nieznany moduł: Kierowcy\nModuły: Drivers, Places, Cities, "
+                                    "Vehicles, Trailers, Contractors, RoadCards, Scheduler"))
+        << run.errors.toStdString();
+}
+
+TEST(Host, ASiblingModuleOpensItsRegisterUntilTheUserEndsIt)
+{
+    TestDatabase db;
+    seedSmallDemo(db);
+    // Without the Library folder the sibling's own file is named.
+    QTemporaryDir alone;
+    const QString copy = alone.filePath(QStringLiteral("haulix"));
+    ASSERT_TRUE(QFile::copy(Host, copy));
+    const HostRun missing = runHost(copy, {QStringLiteral("--db"), db.path(),
+                                           QStringLiteral("--module"), QStringLiteral("vehicles")});
+    EXPECT_EQ(missing.exitCode, 1);
+    EXPECT_TRUE(missing.errors.contains("Nie można załadować modułu "
+                                        + QDir(alone.path()).filePath("Library/Vehicles")))
+        << missing.errors.toStdString();
+
+    // With it, the register stays open until it is closed (here: ended, which
+    // the host, as for the incoming orders, reports as not closed with OK).
+    QProcess host;
+    QProcessEnvironment env = QProcessEnvironment::systemEnvironment();
+    env.insert(QStringLiteral("QT_QPA_PLATFORM"), QStringLiteral("offscreen"));
+    host.setProcessEnvironment(env);
+    host.start(Host, {QStringLiteral("--db"), db.path(), QStringLiteral("--module"),
+                      QStringLiteral("Vehicles")});
+    ASSERT_TRUE(host.waitForStarted());
+    EXPECT_FALSE(host.waitForFinished(3000)) << host.readAllStandardError().toStdString();
+    host.terminate();
+    ASSERT_TRUE(host.waitForFinished(30000));
+    EXPECT_EQ(host.exitStatus(), QProcess::NormalExit);
+    const QString errors = QString::fromUtf8(host.readAllStandardError());
+    EXPECT_FALSE(errors.contains(QStringLiteral("moduł"), Qt::CaseInsensitive))
+        << errors.toStdString();
+}

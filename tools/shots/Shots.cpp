@@ -10,4 +10,5 @@ void registerShots(ShotBook &book)
     addPricingShots(book);
     addOrdersShots(book);
     addPrintoutShots(book);
+    addSiblingShots(book);
 }

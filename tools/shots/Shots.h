@@ -22,3 +22,5 @@ void addOrdersShots(ShotBook &book);
 
 // The invoice, its attachment and the transport order, first pages.
 void addPrintoutShots(ShotBook &book);
+// The registers and editors of the suite's sibling modules.
+void addSiblingShots(ShotBook &book);

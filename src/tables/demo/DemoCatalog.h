@@ -58,40 +58,40 @@ struct Company
 };
 
 inline constexpr Company OwnCompany{"TRANS-WISŁA", "PHU Trans-Wisła Sp. z o.o.", "ul. Spedycyjna 12", 2,
-                                    "725-100-20-30"};
+                                    "725-100-20-46"};
 
 inline constexpr std::array<Company, 18> Clients{{
-    {"AGROMAX", "Agromax Sp. z o.o.", "ul. Rolnicza 5", 4, "781-000-11-22"},
-    {"BUDMAT", "Budmat S.A.", "ul. Cementowa 17", 9, "634-200-33-44"},
-    {"MLECZPOL", "Spółdzielnia Mleczarska Mleczpol", "ul. Łąkowa 2", 10, "542-010-55-66"},
-    {"PAPIRUS", "Papirus Sp. j.", "ul. Drzewna 40", 7, "554-300-77-88"},
-    {"STALEX", "Stalex Sp. z o.o.", "ul. Hutnicza 9", 12, "573-020-99-00"},
-    {"OWOCNY SAD", "Owocny Sad Grupa Producentów", "Sadowa 1", 13, "796-110-12-13"},
-    {"MEBLOTEX", "Meblotex S.A.", "ul. Stolarska 23", 4, "779-200-14-15"},
+    {"AGROMAX", "Agromax Sp. z o.o.", "ul. Rolnicza 5", 4, "781-000-11-24"},
+    {"BUDMAT", "Budmat S.A.", "ul. Cementowa 17", 9, "634-200-33-41"},
+    {"MLECZPOL", "Spółdzielnia Mleczarska Mleczpol", "ul. Łąkowa 2", 10, "542-010-55-76"},
+    {"PAPIRUS", "Papirus Sp. j.", "ul. Drzewna 40", 7, "554-300-77-82"},
+    {"STALEX", "Stalex Sp. z o.o.", "ul. Hutnicza 9", 12, "573-020-99-04"},
+    {"OWOCNY SAD", "Owocny Sad Grupa Producentów", "Sadowa 1", 13, "796-110-12-14"},
+    {"MEBLOTEX", "Meblotex S.A.", "ul. Stolarska 23", 4, "779-200-14-14"},
     {"CHEMIROL", "Chemirol Sp. z o.o.", "ul. Azotowa 3", 16, "813-300-16-17"},
-    {"NAPOJE ZDRÓJ", "Zdrój Napoje Sp. z o.o.", "ul. Źródlana 8", 18, "754-010-18-19"},
-    {"ELEKTROSPRZĘT", "Elektrosprzęt Hurt Sp. z o.o.", "ul. Prądowa 11", 3, "894-200-20-21"},
-    {"BALTFISH", "Baltfish Sp. z o.o.", "ul. Rybacka 6", 11, "586-300-22-23"},
-    {"PIEKARNIA ZŁOTA", "Piekarnia Złoty Kłos", "ul. Młyńska 14", 2, "727-010-24-25"},
-    {"KARTON-PAK", "Karton-Pak Sp. z o.o.", "ul. Tekturowa 4", 6, "851-200-26-27"},
-    {"LOGIMED", "Logimed Dystrybucja Sp. z o.o.", "al. Zdrowia 30", 0, "521-300-28-29"},
-    {"SZKŁO-TECH", "Szkło-Tech S.A.", "ul. Hutnicza 44", 15, "657-010-30-31"},
-    {"WOŁOWINA POLSKA", "Zakłady Mięsne Wołowina Polska", "ul. Rzeźnicza 1", 17, "739-200-32-33"},
-    {"AUTOCZĘŚCI", "Autoczęści Hurt Sp. z o.o.", "ul. Motorowa 19", 1, "676-300-34-35"},
-    {"EKOFARM", "Ekofarm Sp. z o.o.", "ul. Polna 7", 8, "712-010-36-37"},
+    {"NAPOJE ZDRÓJ", "Zdrój Napoje Sp. z o.o.", "ul. Źródlana 8", 18, "754-010-18-14"},
+    {"ELEKTROSPRZĘT", "Elektrosprzęt Hurt Sp. z o.o.", "ul. Prądowa 11", 3, "894-200-20-26"},
+    {"BALTFISH", "Baltfish Sp. z o.o.", "ul. Rybacka 6", 11, "586-300-22-20"},
+    {"PIEKARNIA ZŁOTA", "Piekarnia Złoty Kłos", "ul. Młyńska 14", 2, "727-010-24-29"},
+    {"KARTON-PAK", "Karton-Pak Sp. z o.o.", "ul. Tekturowa 4", 6, "851-200-26-21"},
+    {"LOGIMED", "Logimed Dystrybucja Sp. z o.o.", "al. Zdrowia 30", 0, "521-300-28-24"},
+    {"SZKŁO-TECH", "Szkło-Tech S.A.", "ul. Hutnicza 44", 15, "657-010-30-36"},
+    {"WOŁOWINA POLSKA", "Zakłady Mięsne Wołowina Polska", "ul. Rzeźnicza 1", 17, "739-200-32-37"},
+    {"AUTOCZĘŚCI", "Autoczęści Hurt Sp. z o.o.", "ul. Motorowa 19", 1, "676-300-34-33"},
+    {"EKOFARM", "Ekofarm Sp. z o.o.", "ul. Polna 7", 8, "712-010-36-34"},
 }};
 
 inline constexpr std::array<Company, 10> Carriers{{
     {"TRANS-KOL", "Trans-Kol Jan Kolski", "ul. Kolejowa 3", 2, "725-400-01-02"},
-    {"SZYBKI KURIER", "Szybki Kurier Sp. z o.o.", "ul. Ekspresowa 1", 0, "525-400-03-04"},
-    {"TIR-MAX", "Tir-Max Transport", "ul. Tirowa 8", 4, "782-400-05-06"},
-    {"PÓŁNOC LOGISTIC", "Północ Logistic Sp. z o.o.", "ul. Portowa 15", 5, "583-400-07-08"},
-    {"EUROCARGO", "Eurocargo Sp. z o.o.", "ul. Graniczna 2", 6, "851-400-09-10"},
-    {"KRAK-TRANS", "Krak-Trans s.c.", "ul. Wawelska 9", 1, "675-400-11-12"},
-    {"ŚLĄSK-SPED", "Śląsk-Sped Sp. z o.o.", "ul. Górnicza 21", 9, "634-400-13-14"},
-    {"MAZOWSZE CARGO", "Mazowsze Cargo Sp. z o.o.", "ul. Mazowiecka 5", 13, "796-400-15-16"},
-    {"LUBTRANS", "Lubtrans Piotr Lubicz", "ul. Lubelska 30", 8, "712-400-17-18"},
-    {"WIELKOPOLSKA FRACHT", "Wielkopolska Fracht Sp. z o.o.", "ul. Kupiecka 4", 4, "777-400-19-20"},
+    {"SZYBKI KURIER", "Szybki Kurier Sp. z o.o.", "ul. Ekspresowa 1", 0, "525-400-03-02"},
+    {"TIR-MAX", "Tir-Max Transport", "ul. Tirowa 8", 4, "782-400-05-02"},
+    {"PÓŁNOC LOGISTIC", "Północ Logistic Sp. z o.o.", "ul. Portowa 15", 5, "583-400-07-09"},
+    {"EUROCARGO", "Eurocargo Sp. z o.o.", "ul. Graniczna 2", 6, "851-400-09-16"},
+    {"KRAK-TRANS", "Krak-Trans s.c.", "ul. Wawelska 9", 1, "675-400-11-10"},
+    {"ŚLĄSK-SPED", "Śląsk-Sped Sp. z o.o.", "ul. Górnicza 21", 9, "634-400-13-17"},
+    {"MAZOWSZE CARGO", "Mazowsze Cargo Sp. z o.o.", "ul. Mazowiecka 5", 13, "796-400-15-13"},
+    {"LUBTRANS", "Lubtrans Piotr Lubicz", "ul. Lubelska 30", 8, "712-400-17-12"},
+    {"WIELKOPOLSKA FRACHT", "Wielkopolska Fracht Sp. z o.o.", "ul. Kupiecka 4", 4, "777-400-19-29"},
 }};
 
 struct Person
@@ -112,7 +112,7 @@ inline constexpr std::array<const char *, 12> Goods{{
 }};
 
 // Every form class of the module that privileges can be given for.
-inline constexpr std::array<const char *, 42> FormClasses{{
+inline constexpr std::array<const char *, 60> FormClasses{{
     "TfrmZlecPrzychodzace", "TfrmAddEditZlecenia_Przych", "TfrmTowaryNaZleceniu",
     "TfrmAddEditTowaryNaZleceniu", "TfrmAdresy", "TfrmDataWzorca", "TfrmAdvancedEdit",
     "TfrmWaitPlease", "TfrmRODefault", "TfrmAddEditZleceniaZbiorcze", "TfrmWybierzZlecenia",
@@ -124,6 +124,12 @@ inline constexpr std::array<const char *, 42> FormClasses{{
     "TfrmWybierzDatyAndKontrahenta", "TfrmZestawienieRachunkow", "TfrmRepWspolnicy",
     "TfrmWyborWspolnika", "TfrmPrintReport", "TfrmWydrukiPrzewoz", "TfrmPrintObrotyNaUseraFakt",
     "TfrmPrintObrotyNaUseraFaktObca", "TfrmPrintObrotyNaUseraZagr", "TfrmMiejsceZaladunku",
+    // The sibling modules' forms.
+    "TfrmKierowcy", "TfrmMechanicy", "TfrmAddEditKierowcy", "TfrmMiejsca", "TfrmAddEditMiejsca",
+    "TfrmMiejscowosci", "TfrmAddEditMiejscowosci", "TfrmPojazdy", "TfrmAddEditPojazdy",
+    "TfrmNaczepy", "TfrmAddEditNaczepy", "TfrmKontrahenci", "TfrmAddEditKontrahenci",
+    "TfrmKartyDrogowe", "TfrmAddEditKartyDrogowe", "TfrmTerminarz", "TfrmPokazTerminy",
+    "TfrmAddEditTerminy",
 }};
 
 } // namespace DemoCatalog

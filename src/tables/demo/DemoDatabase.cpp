@@ -16,13 +16,27 @@ QString DemoDatabase::defaultPath()
     return dir + QStringLiteral("/Kelvaro/Haulix/demo.fdb");
 }
 
+namespace {
+
+// Written into the marker; a demo database of another edition (an older
+// schema, other demo data) is made again.
+constexpr char Edition[] = "2: TERMINY, sibling registers";
+
+bool currentEdition(const QString &marker)
+{
+    QFile file(marker);
+    return file.open(QIODevice::ReadOnly) && file.readAll() == QByteArray(Edition);
+}
+
+} // namespace
+
 QString DemoDatabase::ensure(const std::function<void(const QString &)> &progress)
 {
     const QString path = defaultPath();
     // The seeder writes everything in one transaction, so the file is
     // complete once the marker exists.
     const QString marker = path + QStringLiteral(".ready");
-    if (QFile::exists(path) && QFile::exists(marker))
+    if (QFile::exists(path) && currentEdition(marker))
         return path;
     QDir().mkpath(QFileInfo(path).absolutePath());
     QFile::remove(path);
@@ -34,7 +48,8 @@ QString DemoDatabase::ensure(const std::function<void(const QString &)> &progres
         DemoSeeder(connection, DemoSeeder::Options()).seed();
     }
     QFile ready(marker);
-    ready.open(QIODevice::WriteOnly);
+    if (ready.open(QIODevice::WriteOnly))
+        ready.write(Edition);
     progress(QStringLiteral("Baza demonstracyjna gotowa."));
     return path;
 }

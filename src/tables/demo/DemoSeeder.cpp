@@ -28,6 +28,7 @@ void DemoSeeder::seed()
     seedFleet();
     seedOrders();
     seedTemplates();
+    seedSiblingRegisters();
     scope.commit();
 }
 
@@ -274,7 +275,7 @@ void DemoSeeder::seedCompany()
     st.bind(QStringLiteral("aK3"), QStringLiteral("biuro@trans-wisla.example.pl"));
     st.bind(QStringLiteral("aMiejsce"), QString::fromUtf8(city.name));
     st.bind(QStringLiteral("aWoj"), QStringLiteral("łódzkie"));
-    st.bind(QStringLiteral("aEuroNip"), QStringLiteral("PL7251002030"));
+    st.bind(QStringLiteral("aEuroNip"), QStringLiteral("PL7251002046"));
     st.exec();
 
     const auto setting = [&](const QString &name, const char *type, int integer, const QString &text) {

@@ -51,6 +51,7 @@ private:
     void seedFleet();
     void seedOrders();
     void seedTemplates();
+    void seedSiblingRegisters();
 
     std::vector<PlannedOrder> planOrders();
     void planInvoices(std::vector<PlannedOrder> &orders);
