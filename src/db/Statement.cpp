@@ -192,13 +192,14 @@ int Statement::columnCount() const
 
 int Statement::columnIndex(const QString &name) const
 {
-    const QString key = name.toUpper();
-    auto it = m_columnIndexes.constFind(key);
-    if (it != m_columnIndexes.cend())
-        return *it;
-    const int index = m_query.record().indexOf(name);
-    m_columnIndexes.insert(key, index);
-    return index;
+    // The driver builds the whole record description on every record()
+    // call: read the names once for the result, not once per column.
+    if (m_columnIndexes.isEmpty()) {
+        const QSqlRecord record = m_query.record();
+        for (int i = record.count() - 1; i >= 0; --i)
+            m_columnIndexes.insert(record.fieldName(i).toUpper(), i);
+    }
+    return m_columnIndexes.value(name.toUpper(), -1);
 }
 
 int Statement::requireColumn(const QString &name) const
