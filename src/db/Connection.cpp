@@ -59,8 +59,8 @@ void Connection::open(const QString &target, const QString &user, const QString 
     if (!isServerTarget(target) && !QFileInfo::exists(target))
         throw DbError(QStringLiteral("Nie można otworzyć bazy danych %1: plik nie istnieje.").arg(target));
     if (!db.open()) {
-        throw DbError(QStringLiteral("Nie można otworzyć bazy danych %1: %2")
-                          .arg(target, db.lastError().text()));
+        throw DbError::fromSql(QStringLiteral("Nie można otworzyć bazy danych %1").arg(target),
+                               db.lastError());
     }
     m_target = target;
 }

@@ -114,11 +114,7 @@ void Statement::bindNull(const QString &name, QMetaType type)
 
 void Statement::fail(const QString &what) const
 {
-    const QSqlError error = m_query.lastError();
-    QString reason = error.text().trimmed();
-    if (reason.isEmpty())
-        reason = QStringLiteral("nieznany błąd sterownika");
-    throw DbError(QStringLiteral("%1: %2 [%3]").arg(what, reason, text()));
+    throw DbError::fromSql(what, m_query.lastError(), text());
 }
 
 void Statement::exec()

@@ -14,7 +14,7 @@ void Transaction::StartTransaction()
         throw DbError(QStringLiteral("Transakcja jest już rozpoczęta."));
     QSqlDatabase db = m_connection.database();
     if (!db.transaction()) {
-        throw DbError(QStringLiteral("Nie można rozpocząć transakcji: %1").arg(db.lastError().text()));
+        throw DbError::fromSql(QStringLiteral("Nie można rozpocząć transakcji"), db.lastError());
     }
     m_active = true;
 }
@@ -25,7 +25,7 @@ void Transaction::Commit()
         throw DbError(QStringLiteral("Brak rozpoczętej transakcji do zatwierdzenia."));
     QSqlDatabase db = m_connection.database();
     if (!db.commit())
-        throw DbError(QStringLiteral("Nie można zatwierdzić transakcji: %1").arg(db.lastError().text()));
+        throw DbError::fromSql(QStringLiteral("Nie można zatwierdzić transakcji"), db.lastError());
     m_active = false;
 }
 
@@ -36,7 +36,7 @@ void Transaction::Rollback()
     m_active = false;
     QSqlDatabase db = m_connection.database();
     if (!db.rollback())
-        throw DbError(QStringLiteral("Nie można wycofać transakcji: %1").arg(db.lastError().text()));
+        throw DbError::fromSql(QStringLiteral("Nie można wycofać transakcji"), db.lastError());
 }
 
 void Transaction::run(const QString &sql)
@@ -45,7 +45,7 @@ void Transaction::run(const QString &sql)
         throw DbError(QStringLiteral("Brak rozpoczętej transakcji: %1").arg(sql));
     QSqlQuery query(m_connection.database());
     if (!query.exec(sql))
-        throw DbError(QStringLiteral("%1: %2").arg(sql, query.lastError().text()));
+        throw DbError::fromSql(sql, query.lastError());
 }
 
 QString Transaction::setSavepoint()

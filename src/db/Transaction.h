@@ -1,6 +1,11 @@
 #pragma once
 
+#include "DbError.h"
+
+#include <QElapsedTimer>
 #include <QString>
+
+#include <type_traits>
 
 class Connection;
 
@@ -49,8 +54,51 @@ public:
 
     void commit();
 
+    // Runs work in a scope and commits it, returning what work returns.
+    // When the scope is the transaction itself (none was running) and a
+    // statement meets a row that another workstation changed after the
+    // start (DbError::Kind::Conflict), everything is undone and work runs
+    // again in a new transaction, which sees that change. Inside a running
+    // transaction no newer start is possible: the conflict goes on to the
+    // caller, as every other failure does. work must be able to run again
+    // from the start: nothing an undone attempt left in memory may count.
+    template <class Work>
+    static auto retrying(Transaction &transaction, Work &&work) -> decltype(work());
+
+    // How long conflicts are met by starting over before the last one goes
+    // to the caller. Each conflict means that another workstation finished
+    // its own work meanwhile, and a workstation that keeps finishing first
+    // can make another one start over many times in a row.
+    static constexpr int ConflictPatienceMs = 20000;
+
 private:
     Transaction &m_transaction;
     QString m_savepoint;
     bool m_done = false;
 };
+
+template <class Work>
+auto TransactionScope::retrying(Transaction &transaction, Work &&work) -> decltype(work())
+{
+    QElapsedTimer patience;
+    patience.start();
+    for (;;) {
+        const bool starts = !transaction.InTransaction();
+        try {
+            TransactionScope scope(transaction);
+            if constexpr (std::is_void_v<decltype(work())>) {
+                work();
+                scope.commit();
+                return;
+            } else {
+                auto result = work();
+                scope.commit();
+                return result;
+            }
+        } catch (const DbError &error) {
+            if (!starts || error.kind() != DbError::Kind::Conflict
+                || patience.hasExpired(ConflictPatienceMs))
+                throw;
+        }
+    }
+}
