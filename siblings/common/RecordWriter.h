@@ -7,10 +7,10 @@
 
 #include <exception>
 
-// Writes one table object record with the statements and failure reports
-// of its table object, telling the caller what came of it: the key a new
-// record got from its own insert (never a highest key that another
-// workstation could move) and whether an update or a delete went through.
+// Changes one table object record with the statements and failure reports
+// of its table object, telling the caller whether the update or the delete
+// went through. (A new record is inserted by the table object itself, which
+// gives it the key of its own insert.)
 namespace RecordWriter {
 
 namespace Detail {
@@ -31,24 +31,6 @@ bool reported(TableStatements::Operation operation, Step &&step)
 }
 
 } // namespace Detail
-
-// The new record's key; 0 after a failure, which has been shown and logged.
-template <class Obj>
-int insert(const Obj &record)
-{
-    const auto &d = Obj::description();
-    Statement st(record.connection());
-    for (const QString &line : TableStatements::insertLines(d.info.table, d.columnNames()))
-        st.add(line);
-    st.add(QStringLiteral("RETURNING ") + d.info.key);
-    record.bindColumns(st);
-    int key = 0;
-    Detail::reported<Obj>(TableStatements::Operation::Insert, [&] {
-        st.exec();
-        key = st.integer(0);
-    });
-    return key;
-}
 
 // False after a failure, which has been shown and logged; also when the
 // record is no longer there.

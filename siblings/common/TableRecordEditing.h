@@ -114,11 +114,8 @@ public:
         if (!inserted) {
             if (!RecordWriter::update(m_record))
                 return 0;
-        } else {
-            const int newKey = RecordWriter::insert(m_record);
-            if (newKey == 0)
-                return 0;
-            m_record.*(d.keyField) = newKey;
+        } else if (!m_record.Insert()) {
+            return 0;
         }
         if (m_definition.afterSave) {
             try {

@@ -46,9 +46,8 @@ int PriceGroups::add(Connection &connection, const QString &name, bool blocked)
     TCenniki_kraj_grupyObj group(connection);
     group.NAZWA = name;
     group.BLOKADA = blocked ? 1 : 0;
-    if (!group.Insert())
-        return 0;
-    return group.GetMaxId();
+    group.Insert();
+    return group.ID_CENNIKI_KRAJ_GRUPY;
 }
 
 void PriceGroups::change(Connection &connection, int key, const QString &name, bool blocked)

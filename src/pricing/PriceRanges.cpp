@@ -37,9 +37,8 @@ int addTo(Connection &connection, int upperBound)
 {
     Range range(connection);
     range.*Axis<Range>::To = upperBound;
-    if (!range.Insert())
-        return 0;
-    return range.GetMaxId();
+    range.Insert();
+    return range.*Axis<Range>::Key;
 }
 
 template <class Range>

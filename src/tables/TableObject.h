@@ -39,15 +39,25 @@ public:
 
     Connection &connection() const { return *m_connection; }
 
-    // False after a failure, which has been shown and logged already.
+    // The database gives the new record its key, and the insert hands it
+    // back (RETURNING) into the record's key field: the record this
+    // workstation inserted, never the highest key, which another
+    // workstation may have moved meanwhile. False, and the key 0, after a
+    // failure, which has been shown and logged already.
     bool Insert()
     {
         const auto &d = Derived::description();
         Statement st(*m_connection);
         for (const QString &line : TableStatements::insertLines(d.info.table, d.columnNames()))
             st.add(line);
+        st.add(TableStatements::returningLine(d.info.key));
         bindColumns(st);
-        return guarded(TableStatements::Operation::Insert, [&] { st.exec(); });
+        Derived &record = static_cast<Derived &>(*this);
+        record.*(d.keyField) = 0;
+        return guarded(TableStatements::Operation::Insert, [&] {
+            st.exec();
+            record.*(d.keyField) = st.integer(0);
+        });
     }
 
     void Update()
@@ -154,6 +164,7 @@ public:
 
     // The highest key of the table, 0 when it is empty. Guarded for some
     // tables (0 after a failure), not for others (DbError to the caller).
+    // Not the key of a record just inserted: Insert gives that one.
     int GetMaxId() const
         requires(Derived::MaxId != MaxIdKind::None)
     {

@@ -31,6 +31,11 @@ QStringList insertLines(const QString &table, const QStringList &columns)
             QStringLiteral(" VALUES "), parameterList(columns)};
 }
 
+QString returningLine(const QString &key)
+{
+    return QStringLiteral(" RETURNING ") + key;
+}
+
 QStringList updateLines(const QString &table, const QStringList &columns, const QString &key)
 {
     QStringList lines{QStringLiteral("UPDATE ") + table + QStringLiteral(" SET ")};

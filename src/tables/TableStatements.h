@@ -14,6 +14,8 @@ class Statement;
 namespace TableStatements {
 
 QStringList insertLines(const QString &table, const QStringList &columns);
+// The line after an insert that hands back the new record's key.
+QString returningLine(const QString &key);
 QStringList updateLines(const QString &table, const QStringList &columns, const QString &key);
 QString deleteLine(const QString &table, const QString &key);
 QString selectAllLine(const QString &table);

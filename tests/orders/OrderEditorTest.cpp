@@ -56,7 +56,7 @@ protected:
     int insertOrder(TZlecenia_przychObj order)
     {
         order.Insert();
-        return order.GetMaxId();
+        return order.ID_ZLECENIA_PRZYCH;
     }
 
     int client = 0;

@@ -8,20 +8,46 @@
 
 using TestData::addCity;
 
-TEST(TableObject, KeysAscendWithInsertionAndMaxIdFindsTheNewOne)
+TEST(TableObject, InsertGivesTheRecordItsOwnKeyNotTheHighestOne)
 {
     TestDatabase db;
+    Connection elsewhere;
+    elsewhere.open(db.path());
     TZlecenia_przychObj order(db.connection());
     EXPECT_EQ(order.GetMaxId(), 0);
+    TZlecenia_przychObj otherOrder(elsewhere);
     int previous = 0;
     for (int i = 0; i < 3; ++i) {
         order.NUMER = 10 - i;
-        order.Insert();
-        const int key = order.GetMaxId();
-        EXPECT_GT(key, previous);
-        EXPECT_EQ(order.SelectById(key).NUMER, 10 - i);
-        previous = key;
+        ASSERT_TRUE(order.Insert());
+        // Another workstation inserts right after.
+        otherOrder.NUMER = 100 + i;
+        otherOrder.Insert();
+        EXPECT_GT(order.ID_ZLECENIA_PRZYCH, previous);
+        EXPECT_EQ(otherOrder.ID_ZLECENIA_PRZYCH, order.GetMaxId());
+        EXPECT_EQ(order.SelectById(order.ID_ZLECENIA_PRZYCH).NUMER, 10 - i);
+        previous = order.ID_ZLECENIA_PRZYCH;
     }
+    // Outside a transaction the row is committed when Insert returns.
+    EXPECT_EQ(db.countSeenElsewhere(QStringLiteral("ZLECENIA_PRZYCH")), 6);
+}
+
+TEST(TableObject, AFailedInsertLeavesNoKeyBehind)
+{
+    TestDatabase db;
+    db.exec(QStringLiteral("ALTER TABLE MIARY ADD CONSTRAINT MIARY_SKROT CHECK (SKROT <> 'x')"));
+    TMiaryObj unit(db.connection());
+    unit.NAZWA = QStringLiteral("kilogram");
+    unit.SKROT = QStringLiteral("kg");
+    ASSERT_TRUE(unit.Insert());
+    // A record copied from a stored one carries that one's key.
+    TMiaryObj copy = unit;
+    copy.SKROT = QStringLiteral("x");
+    scriptedMessages().expect();
+    EXPECT_FALSE(copy.Insert());
+    EXPECT_EQ(copy.ID_MIARY, 0);
+    EXPECT_EQ(scriptedMessages().shown().front().text,
+              QStringLiteral("Błąd przy dodawaniu danych do tabeli MIARY"));
 }
 
 TEST(TableObject, SelectAllKeepsDatabaseOrderOrTheGivenOne)

@@ -2,7 +2,6 @@
 
 #include "Schema.h"
 #include "SessionContext.h"
-#include "Statement.h"
 #include "TUsersObj.h"
 #include "TZlecenia_przychObj.h"
 
@@ -31,6 +30,7 @@ ShotDatabase::ShotDatabase()
     m_connection.open(path);
     setSession(1, &m_connection, &m_transaction);
 
+    int lastUser = 0;
     for (const DemoUser &demo : DemoUsers) {
         TUsersObj user(m_connection);
         user.LOGIN = QString::fromUtf8(demo.login);
@@ -38,17 +38,15 @@ ShotDatabase::ShotDatabase()
         user.NAZWISKO = QString::fromUtf8(demo.surname);
         user.VISIBLE = 1;
         user.Insert();
+        lastUser = user.ID_USER;
     }
-    Statement lastUser(m_connection);
-    lastUser.add(QStringLiteral("SELECT MAX(ID_USER) FROM USERS"));
-    lastUser.exec();
     TZlecenia_przychObj order(m_connection);
     order.NUMER = 1207;
     order.DATA = DateTime::today();
     order.KWOTA = 3450.0;
-    order.IDUSER = lastUser.integer(0);
+    order.IDUSER = lastUser;
     order.Insert();
-    m_orderKey = order.GetMaxId();
+    m_orderKey = order.ID_ZLECENIA_PRZYCH;
 }
 
 ShotDatabase::~ShotDatabase()

@@ -50,7 +50,7 @@ int copyOrderWithPlacesAndGoods(Connection &connection, Transaction &transaction
     order.NUMER = 0;
     if (!order.Insert())
         return 0;
-    const int copyKey = order.GetMaxId();
+    const int copyKey = order.ID_ZLECENIA_PRZYCH;
     if (!copyFirstPlace(connection, sourceKey, OrderPlaces::Loading, copyKey)
         || !copyFirstPlace(connection, sourceKey, OrderPlaces::Unloading, copyKey)
         || !copyGoods(connection, sourceKey, copyKey))

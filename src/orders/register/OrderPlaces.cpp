@@ -19,8 +19,7 @@ TMiejsca_zlecObj placeOf(Connection &connection, int orderKey, int type)
     TMiejsca_zlecObj place(connection);
     place.ID_ZLECENIA = orderKey;
     place.ID_ZRP = type;
-    if (place.Insert())
-        place.ID_MIEJSCA_ZLEC = place.GetMaxId();
+    place.Insert();
     return place;
 }
 

@@ -77,7 +77,8 @@ int insertForDay(Connection &connection, Transaction &transaction, const QDate &
     int inserted = 0;
     for (const TZlecenia_przychObj &pattern : templates) {
         TZlecenia_przychObj order = orderFromTemplate(pattern, day);
-        if (!order.Insert() || !copyGoods(connection, pattern.ID_ZLECENIA_PRZYCH, order.GetMaxId()))
+        if (!order.Insert()
+            || !copyGoods(connection, pattern.ID_ZLECENIA_PRZYCH, order.ID_ZLECENIA_PRZYCH))
             return 0;
         ++inserted;
     }

@@ -367,7 +367,7 @@ void DemoSeeder::seedPricing()
         row.ZAKRES_WOD = from;
         row.ZAKRES_WDO = upTo;
         row.Insert();
-        rows.push_back(row.GetMaxId());
+        rows.push_back(row.ID_CENNIKI_KRAJ_WIERSZE);
         from = upTo + 1;
     }
     TCenniki_kraj_kolumnyObj column(m_connection);
@@ -377,7 +377,7 @@ void DemoSeeder::seedPricing()
         column.ZAKRES_KOD = from;
         column.ZAKRES_KDO = upTo;
         column.Insert();
-        columns.push_back(column.GetMaxId());
+        columns.push_back(column.ID_CENNIKI_KRAJ_KOLUMNY);
         from = upTo + 1;
     }
     TCenniki_kraj_grupyObj group(m_connection);
