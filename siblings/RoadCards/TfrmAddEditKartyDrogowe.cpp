@@ -1,7 +1,7 @@
 #include "TfrmAddEditKartyDrogowe.h"
 
 #include "DbError.h"
-#include "Failures.h"
+#include "ReportFailures.h"
 #include "RecordReader.h"
 #include "RoadCards.h"
 #include "SessionContext.h"
@@ -39,8 +39,7 @@ void TfrmAddEditKartyDrogowe::vehicleChosen()
         RoadCards::takeOverVehicle(record,
                                    recordByKey<TPojazdyObj>(record.connection(), record.IDPOJAZD));
     } catch (const DbError &error) {
-        Failures::report(QStringLiteral("Nie udało się wczytać danych pojazdu."),
-                         error.message());
+        reportFailure(QStringLiteral("Nie udało się wczytać danych pojazdu."), error);
     }
     showRecord();
 }

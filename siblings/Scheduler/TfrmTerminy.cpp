@@ -2,7 +2,7 @@
 
 #include "LinkButton.h"
 #include "DbError.h"
-#include "Failures.h"
+#include "ReportFailures.h"
 #include "TframeListView.h"
 #include "Privileges.h"
 #include "RecordReader.h"
@@ -50,7 +50,7 @@ void TfrmTerminy::acWykonaneExecute()
         const bool done = recordByKey<TTerminyObj>(database, key).WYKONANE != 0;
         Reminders::setDone(database, key, !done);
     } catch (const DbError &error) {
-        Failures::report(QStringLiteral("Nie udało się oznaczyć terminu."), error.message());
+        reportFailure(QStringLiteral("Nie udało się oznaczyć terminu."), error);
     }
     reloadAndSelect(key);
 }

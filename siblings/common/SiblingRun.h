@@ -2,7 +2,7 @@
 
 #include "DbError.h"
 #include "TfrmRODefault.h"
-#include "Failures.h"
+#include "ReportFailures.h"
 #include "MessageService.h"
 #include "Privileges.h"
 #include "SessionContext.h"
@@ -27,11 +27,9 @@ std::int32_t guarded(std::int32_t fallback, Work &&work)
     try {
         return work();
     } catch (const DbError &error) {
-        Failures::report(QStringLiteral("Okno modułu zamknięto po błędzie bazy danych."),
-                         error.message());
+        reportFailure(QStringLiteral("Okno modułu zamknięto po błędzie bazy danych."), error);
     } catch (const std::exception &error) {
-        Failures::report(QStringLiteral("Okno modułu zamknięto po błędzie."),
-                         QString::fromLocal8Bit(error.what()));
+        reportFailure(QStringLiteral("Okno modułu zamknięto po błędzie."), error);
     }
     return fallback;
 }

@@ -2,7 +2,7 @@
 
 #include "DateTime.h"
 #include "DbError.h"
-#include "Failures.h"
+#include "ReportFailures.h"
 #include "RecordEditing.h"
 #include "RecordReader.h"
 #include "RecordWriter.h"
@@ -123,9 +123,9 @@ public:
             } catch (const DbError &error) {
                 if (inserted)
                     m_record.*(d.keyField) = 0;
-                Failures::report(QStringLiteral("Nie udało się zapisać zmian: baza danych odrzuciła "
-                                                 "zapis. Nic nie zostało zapisane."),
-                                 error.message());
+                reportFailure(QStringLiteral("Nie udało się zapisać zmian: baza danych "
+                                             "odrzuciła zapis. Nic nie zostało zapisane."),
+                              error);
                 return 0;
             }
         }

@@ -1,7 +1,7 @@
 #include "TfrmRecordEditor.h"
 
 #include "DbError.h"
-#include "Failures.h"
+#include "ReportFailures.h"
 #include "FieldWidgets.h"
 #include "MessageService.h"
 #include "SessionContext.h"
@@ -29,8 +29,7 @@ TfrmRecordEditor::TfrmRecordEditor(QWidget *owner, std::unique_ptr<RecordEditing
     try {
         m_found = m_editing->load(key);
     } catch (const DbError &error) {
-        Failures::report(QStringLiteral("Nie udało się wczytać danych do edycji."),
-                         error.message());
+        reportFailure(QStringLiteral("Nie udało się wczytać danych do edycji."), error);
     }
     if (m_found)
         showRecord();
@@ -71,9 +70,9 @@ void TfrmRecordEditor::buildFields()
             try {
                 choices = described.choices(*database);
             } catch (const DbError &error) {
-                Failures::report(QStringLiteral("Nie udało się wczytać listy pola %1.")
-                                     .arg(described.caption),
-                                 error.message());
+                reportFailure(
+                    QStringLiteral("Nie udało się wczytać listy pola %1.").arg(described.caption),
+                    error);
             }
         }
         QWidget *widget = FieldWidgets::create(described, choices, this);
@@ -113,9 +112,8 @@ void TfrmRecordEditor::btnOkClick()
     try {
         problem = m_editing->check();
     } catch (const DbError &error) {
-        Failures::report(QStringLiteral("Nie udało się sprawdzić danych; nic nie zostało "
-                                        "zapisane."),
-                         error.message());
+        reportFailure(QStringLiteral("Nie udało się sprawdzić danych; nic nie zostało zapisane."),
+                      error);
         return;
     }
     if (problem) {
@@ -129,9 +127,8 @@ void TfrmRecordEditor::btnOkClick()
     try {
         key = m_editing->save();
     } catch (const DbError &error) {
-        Failures::report(QStringLiteral("Baza danych nie przyjęła zapisu; nic nie zostało "
-                                        "zapisane."),
-                         error.message());
+        reportFailure(QStringLiteral("Baza danych nie przyjęła zapisu; nic nie zostało zapisane."),
+                      error);
     }
     if (key == 0)
         return;   // the failure was shown; everything typed stays

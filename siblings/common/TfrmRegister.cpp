@@ -2,7 +2,7 @@
 
 #include "LinkButton.h"
 #include "DbError.h"
-#include "Failures.h"
+#include "ReportFailures.h"
 #include "TframeListView.h"
 #include "MessageService.h"
 #include "Privileges.h"
@@ -91,7 +91,7 @@ void TfrmRegister::LoadLVData()
             for (const RegisterModel::Row &row : m_model->rows(*database, filter))
                 list->addItem(row.texts.value(0), row.texts.mid(1), row.key);
         } catch (const DbError &error) {
-            Failures::report(QStringLiteral("Nie udało się wczytać listy."), error.message());
+            reportFailure(QStringLiteral("Nie udało się wczytać listy."), error);
         }
     }
     list->endUpdate();
@@ -164,9 +164,9 @@ void TfrmRegister::acUsunExecute()
     try {
         deletion = m_model->remove(*session().Database, key);
     } catch (const DbError &error) {
-        Failures::report(QStringLiteral("Nie udało się usunąć wybranej pozycji; nic nie zostało "
-                                        "usunięte."),
-                         error.message());
+        reportFailure(QStringLiteral("Nie udało się usunąć wybranej pozycji; nic nie zostało "
+                                     "usunięte."),
+                      error);
         return;
     }
     if (deletion.outcome == RegisterModel::Deletion::Refused) {

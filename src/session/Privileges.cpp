@@ -4,6 +4,7 @@
 #include "DbError.h"
 #include "ErrorLog.h"
 #include "MessageService.h"
+#include "ReportFailures.h"
 #include "SessionContext.h"
 #include "Statement.h"
 
@@ -72,7 +73,9 @@ bool Privileges::require(int kind, const QObject *form)
         Messages::inform(RefusalCaption, RefusalText, MessageService::Icon::Warning);
     } catch (const DbError &error) {
         ErrorLog::write(ErrorLog::HaulixErrors, error.message());
-        Messages::error(QStringLiteral("Nie można sprawdzić uprawnień: ") + error.message());
+        Messages::error(FailureText::message(QStringLiteral("Nie można sprawdzić uprawnień"),
+                                             FailureText::advice(error.kind(),
+                                                                 ErrorLog::HaulixErrors)));
     }
     return false;
 }

@@ -4,6 +4,9 @@
 #include "ScriptedMessages.h"
 #include "Statement.h"
 #include "TestDatabase.h"
+#include "Transaction.h"
+
+#include <QProcess>
 
 #include <gtest/gtest.h>
 
@@ -28,8 +31,71 @@ TEST(ReportFailures, AFailedStatementIsLoggedAndShownOnceAndCountsAsNotDone)
     ASSERT_EQ(logged.size(), 1);
     EXPECT_TRUE(logged.front().contains(QStringLiteral("Table unknown - NIEMA")))
         << logged.front().toStdString();
-    EXPECT_EQ(box.text, QStringLiteral("Nie można odczytać cennika: ") + logged.front());
+    EXPECT_TRUE(logged.front().contains(QStringLiteral("[SELECT * FROM NIEMA]")));
+    // The engine's English and the statement stay in the log.
+    EXPECT_EQ(box.text, QStringLiteral("Nie można odczytać cennika.\nBaza danych nie wykonała tej "
+                                       "operacji. Szczegóły zapisano w pliku SQLErrors.ini; gdy "
+                                       "błąd się powtarza, przekaż je administratorowi."));
     EXPECT_TRUE(loggedToday(ErrorLog::HaulixErrors).isEmpty());
+}
+
+TEST(ReportFailures, AnotherWorkstationsChangeAsksToTryAgain)
+{
+    TestDatabase db;
+    db.exec(QStringLiteral("INSERT INTO MIARY (NAZWA, SKROT) VALUES ('tona', 't')"));
+    Connection other;
+    other.open(db.path());
+    Transaction transaction(db.connection());
+    transaction.StartTransaction();
+    Statement elsewhere(other);
+    elsewhere.add(QStringLiteral("UPDATE MIARY SET SKROT='T'"));
+    elsewhere.exec();
+    scriptedMessages().expect();
+    EXPECT_FALSE(reportFailures(QStringLiteral("Nie udało się zapisać jednostki."), [&] {
+        Statement st(db.connection());
+        st.add(QStringLiteral("UPDATE MIARY SET SKROT='tn'"));
+        st.exec();
+    }));
+    transaction.Rollback();
+    EXPECT_EQ(scriptedMessages().shown().front().text,
+              QStringLiteral("Nie udało się zapisać jednostki.\nInne stanowisko zmieniło w tym "
+                             "samym czasie te same dane. Spróbuj jeszcze raz."));
+    const QStringList logged = loggedToday(ErrorLog::SqlErrors);
+    ASSERT_EQ(logged.size(), 1);
+    EXPECT_TRUE(logged.front().startsWith(QStringLiteral("Nie udało się zapisać jednostki: ")));
+    EXPECT_TRUE(logged.front().contains(QStringLiteral("update conflicts with concurrent update")));
+    EXPECT_TRUE(logged.front().contains(QStringLiteral("UPDATE MIARY SET SKROT='tn'")));
+}
+
+TEST(ReportFailures, ADatabaseThatCannotBeReachedOrIsLostAsksToCheckTheConnection)
+{
+    TestDatabase db;
+    const QString advice = QStringLiteral(
+        "Nie ma połączenia z bazą danych. Sprawdź połączenie z siecią i serwerem bazy danych, "
+        "potem spróbuj jeszcze raz.");
+    scriptedMessages().expect();
+    EXPECT_FALSE(reportFailures(QStringLiteral("Nie można odczytać listy zleceń"), [] {
+        Connection server;
+        server.open(QStringLiteral("127.0.0.1/1:/dane/haulix.fdb"));
+    }));
+    EXPECT_EQ(scriptedMessages().shown().back().text,
+              QStringLiteral("Nie można odczytać listy zleceń.\n") + advice);
+    EXPECT_TRUE(loggedToday(ErrorLog::SqlErrors).front().contains(QStringLiteral("127.0.0.1")));
+
+    // The administrator shuts the database down while the program runs.
+    QProcess gfix;
+    gfix.start(QStringLiteral("gfix"), {QStringLiteral("-shut"), QStringLiteral("full"),
+                                        QStringLiteral("-force"), QStringLiteral("0"), db.path()});
+    ASSERT_TRUE(gfix.waitForFinished(60000));
+    ASSERT_EQ(gfix.exitCode(), 0) << gfix.readAllStandardError().toStdString();
+    scriptedMessages().expect();
+    EXPECT_FALSE(reportFailures(QStringLiteral("Nie można zapisać zlecenia"), [&] {
+        Statement st(db.connection());
+        st.add(QStringLiteral("SELECT COUNT(*) FROM MIARY"));
+        st.exec();
+    }));
+    EXPECT_EQ(scriptedMessages().shown().back().text,
+              QStringLiteral("Nie można zapisać zlecenia.\n") + advice);
 }
 
 TEST(ReportFailures, WorkThatSucceedsShowsAndLogsNothing)
@@ -54,10 +120,13 @@ TEST(ReportFailures, OtherExceptionsAreReportedToo)
     EXPECT_FALSE(reportFailures(QStringLiteral("Nie można zapisać zlecenia"),
                                 [] { throw std::runtime_error("brak pamięci"); }));
     EXPECT_EQ(scriptedMessages().shown().front().text,
-              QStringLiteral("Nie można zapisać zlecenia: brak pamięci"));
+              QStringLiteral("Nie można zapisać zlecenia.\nWystąpił nieoczekiwany błąd programu. "
+                             "Szczegóły zapisano w pliku SQLErrors.ini."));
+    EXPECT_TRUE(loggedToday(ErrorLog::SqlErrors).front().endsWith(QStringLiteral("brak pamięci")));
 }
 
 TEST(ErrorLog, LineBreaksBecomeBlanks)
 {
     EXPECT_EQ(ErrorLog::oneLine(QStringLiteral("a\r\nb\nc")), QStringLiteral("a b c"));
 }
+

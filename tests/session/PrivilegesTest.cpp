@@ -1,4 +1,6 @@
 #include "DbError.h"
+#include "ErrorLog.h"
+#include "ErrorLogs.h"
 #include "Privileges.h"
 #include "ScriptedMessages.h"
 #include "SessionContext.h"
@@ -137,6 +139,13 @@ TEST_F(PrivilegesTest, RequireRefusesWithAnErrorWhenTheDatabaseFails)
     EXPECT_FALSE(Privileges::require(9, &zlecenia));
     ASSERT_EQ(scriptedMessages().shown().size(), 1u);
     EXPECT_EQ(scriptedMessages().shown().front().caption, QStringLiteral("Błąd"));
+    // The engine's words and the statement are for the log only.
+    EXPECT_EQ(scriptedMessages().shown().front().text,
+              QStringLiteral("Nie można sprawdzić uprawnień.\nBaza danych nie wykonała tej "
+                             "operacji. Szczegóły zapisano w pliku HaulixErrors.ini; gdy błąd się "
+                             "powtarza, przekaż je administratorowi."));
+    ASSERT_EQ(loggedToday(ErrorLog::HaulixErrors).size(), 1);
+    EXPECT_TRUE(loggedToday(ErrorLog::HaulixErrors).front().contains(QStringLiteral("SELECT")));
 
     setSession(5, nullptr, nullptr);
     scriptedMessages().expect(MessageService::Ok);
