@@ -1279,3 +1279,23 @@ BEGIN
 END^
 SET TERM ; ^
 CREATE INDEX TERMINY_UZYTKOWNIK ON TERMINY (ID_USER, DATA);
+
+-- One row per series of numbers proposed from earlier rows (the orders of a
+-- year, the invoices of a kind and month; MIESIAC 0 for a yearly series).
+-- A workstation locks its series' row before it proposes a number and
+-- keeps the lock until the numbered row is committed, so two workstations
+-- never propose from the same rows at once.
+CREATE TABLE NUMERACJA (
+    ID_NUMERACJI INTEGER NOT NULL PRIMARY KEY,
+    RODZAJ VARCHAR(31) NOT NULL,
+    ROK INTEGER NOT NULL,
+    MIESIAC INTEGER DEFAULT 0 NOT NULL,
+    CONSTRAINT NUMERACJA_SERIA UNIQUE (RODZAJ, ROK, MIESIAC)
+);
+CREATE SEQUENCE GEN_NUMERACJA;
+SET TERM ^ ;
+CREATE TRIGGER NUMERACJA_BI FOR NUMERACJA ACTIVE BEFORE INSERT POSITION 0 AS
+BEGIN
+  IF (NEW.ID_NUMERACJI IS NULL OR NEW.ID_NUMERACJI = 0) THEN NEW.ID_NUMERACJI = NEXT VALUE FOR GEN_NUMERACJA;
+END^
+SET TERM ; ^
