@@ -43,7 +43,7 @@ TZlecenia_przychObj load(Connection &connection, int orderKey)
     return order;
 }
 
-void insert(Connection &connection, const TZlecenia_przychObj &order)
+int insert(Connection &connection, const TZlecenia_przychObj &order)
 {
     const QStringList columns = insertedColumns();
     QStringList parameters;
@@ -52,8 +52,10 @@ void insert(Connection &connection, const TZlecenia_przychObj &order)
     Statement st(connection);
     st.add(QStringLiteral("INSERT INTO ZLECENIA_PRZYCH (") + ColumnList + u')');
     st.add(QStringLiteral("VALUES (") + parameters.join(u',') + u')');
+    st.add(QStringLiteral("RETURNING ID_ZLECENIA_PRZYCH"));
     order.bindColumns(st, columns);
     st.exec();
+    return st.integer(0);
 }
 
 void update(Connection &connection, const TZlecenia_przychObj &order)

@@ -14,8 +14,9 @@ namespace IncomingOrderStatements {
 // record whose key is 0.
 TZlecenia_przychObj load(Connection &connection, int orderKey);
 
-// A new order with the issuing user IDUSER of the record.
-void insert(Connection &connection, const TZlecenia_przychObj &order);
+// A new order with the issuing user IDUSER of the record; returns the key
+// the database gave it.
+int insert(Connection &connection, const TZlecenia_przychObj &order);
 
 // The same columns but IDUSER, on the order with the record's key.
 void update(Connection &connection, const TZlecenia_przychObj &order);

@@ -5,7 +5,7 @@
 #include "IncomingOrderStatements.h"
 #include "KeyedLists.h"
 #include "MessageService.h"
-#include "OrderNumbering.h"
+#include "OrderSaving.h"
 #include "ReportFailures.h"
 #include "SessionContext.h"
 #include "TBitBtn.h"
@@ -14,7 +14,6 @@
 #include "TKierowcyObj.h"
 #include "TNumberEdit.h"
 #include "TTaryfyprzewoznikaObj.h"
-#include "Transaction.h"
 
 #include <QAction>
 #include <QCheckBox>
@@ -412,19 +411,9 @@ double TfrmAddEditZlecenia_Przych::carrierCost() const
 
 void TfrmAddEditZlecenia_Przych::save()
 {
-    Connection &connection = m_order.connection();
-    TransactionScope scope(session().transaction());
     m_order.KOSZTRAZEM = carrierCost();
-    if (m_order.NUMER <= 0) {
-        m_order.NUMER = OrderNumbering::propose(connection, deAwizo->date().year());
-        seNumerKolejny->setValue(m_order.NUMER);
-    }
-    if (m_mode == Add)
-        IncomingOrderStatements::insert(connection, m_order);
-    else
-        IncomingOrderStatements::update(connection, m_order);
-    rememberRoute();
-    scope.commit();
+    OrderSaving::save(session().transaction(), m_order, m_mode == Add);
+    seNumerKolejny->setValue(m_order.NUMER);
 }
 
 void TfrmAddEditZlecenia_Przych::btnOkClick()

@@ -192,7 +192,6 @@ private:
     void clearTariff();
     void cityChosen();
     void btnMiastoClick();
-    void rememberRoute();
 
     void btnOkClick();
     // The controls into the record; false (after the message) when a time

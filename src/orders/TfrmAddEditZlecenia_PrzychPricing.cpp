@@ -146,9 +146,3 @@ void TfrmAddEditZlecenia_Przych::btnMiastoClick()
         }
     });
 }
-
-void TfrmAddEditZlecenia_Przych::rememberRoute()
-{
-    Distances::learn(m_order.connection(), m_order.IDMIASTO_OD, m_order.IDMIASTO_VIA,
-                     m_order.IDMIASTO_DO, m_order.ODLEGLOSC);
-}

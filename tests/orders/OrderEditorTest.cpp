@@ -1,8 +1,11 @@
 #include "OrdersFixture.h"
 
+#include "ErrorLog.h"
+#include "ErrorLogs.h"
 #include "IncomingOrderStatements.h"
 #include "ScriptedMessages.h"
 #include "ScriptedModalRunner.h"
+#include "Statement.h"
 #include "TBitBtn.h"
 #include "TDateEdit.h"
 #include "TNumberEdit.h"
@@ -15,6 +18,7 @@
 #include <QPlainTextEdit>
 #include <QRadioButton>
 #include <QSpinBox>
+#include <QTest>
 
 namespace {
 
@@ -291,6 +295,42 @@ TEST_F(OrderEditor, ATimeThatDoesNotConvertStopsTheSaveBeforeAnythingIsWritten)
         e.btnOk->click();
     });
     EXPECT_EQ(db.count(QStringLiteral("ZLECENIA_PRZYCH")), 1);
+}
+
+TEST_F(OrderEditor, AnotherWorkstationsChangeMeanwhileIsOnePolishSentenceAndKeepsTheEditorOpen)
+{
+    TZlecenia_przychObj order(db.connection());
+    order.NUMER = 12;
+    order.DATA = DateTime::fromDate(QDate(2026, 5, 4));
+    const int key = insertOrder(order);
+    const int result = run(key, Editor::Edit, [&](Editor &e) {
+        // The host's transaction was running when another workstation
+        // changed the same order and committed.
+        transaction.StartTransaction();
+        Connection elsewhere;
+        elsewhere.open(db.path());
+        Statement change(elsewhere);
+        change.add(QStringLiteral("UPDATE ZLECENIA_PRZYCH SET POJAZD='KR 1234'"));
+        change.exec();
+        e.edPojazd->setFocus();
+        QTest::keyClicks(e.edPojazd, QStringLiteral("WX 5150"));
+        scriptedMessages().expect(MessageService::Ok);
+        QTest::mouseClick(e.btnOk, Qt::LeftButton);
+        EXPECT_TRUE(e.isVisible());
+        EXPECT_EQ(e.edPojazd->text(), "WX 5150");
+        transaction.Rollback();
+    });
+    EXPECT_NE(result, TfrmRODefault::mrOk);
+    ASSERT_EQ(scriptedMessages().shown().size(), 1u);
+    EXPECT_EQ(scriptedMessages().shown()[0].caption, "Błąd");
+    EXPECT_EQ(scriptedMessages().shown()[0].text,
+              "Nie można zapisać zlecenia.\nInne stanowisko zmieniło w tym samym czasie te same "
+              "dane. Spróbuj jeszcze raz.");
+    const QStringList logged = loggedToday(ErrorLog::SqlErrors);
+    ASSERT_EQ(logged.size(), 1);
+    EXPECT_TRUE(logged[0].contains(u"update conflicts with concurrent update"));
+    EXPECT_TRUE(logged[0].contains(u"UPDATE ZLECENIA_PRZYCH SET"));
+    EXPECT_EQ(stored(key).POJAZD, "KR 1234");
 }
 
 TEST_F(OrderEditor, AContractorOrCityGoneFromItsListStaysWithTheOrder)

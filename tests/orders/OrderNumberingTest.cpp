@@ -32,3 +32,14 @@ TEST(OrderNumbering, FollowsTheMostRecentlyInsertedOrderOfTheYearNotTheHighestNu
     EXPECT_EQ(OrderNumbering::propose(db.connection(), 2024), 15);
     EXPECT_EQ(OrderNumbering::propose(db.connection(), 2023), 501);
 }
+
+TEST(OrderNumbering, LeavesOutTheOrderBeingNumberedAndOrdersWithoutANumber)
+{
+    TestDatabase db;
+    addOrder(db, QDate(2024, 3, 1), 57);
+    TZlecenia_przychObj copy(db.connection());
+    copy.DATA = DateTime::fromDate(QDate(2024, 3, 2));
+    copy.Insert();
+    addOrder(db, QDate(2024, 3, 3), 0);
+    EXPECT_EQ(OrderNumbering::propose(db.connection(), 2024, copy.ID_ZLECENIA_PRZYCH), 58);
+}

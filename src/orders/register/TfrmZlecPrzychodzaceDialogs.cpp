@@ -10,7 +10,6 @@
 #include "ReportFailures.h"
 #include "SessionContext.h"
 #include "TMiejsca_zlecObj.h"
-#include "TZlecenia_przychObj.h"
 #include "TframeListView.h"
 #include "TfrmAddEditZlecenia_Przych.h"
 #include "TfrmAdresy.h"
@@ -27,14 +26,13 @@ void TfrmZlecPrzychodzace::acDodajExecute()
 {
     if (!Privileges::require(Privileges::Add, this))
         return;
-    if (runEditor(0, TfrmAddEditZlecenia_Przych::Add) != mrOk)
+    using Editor = TfrmAddEditZlecenia_Przych;
+    const auto editor = TfrmRODefault::create<Editor>(this, 0, Editor::Add);
+    if (editor->showModal() != mrOk)
         return;
-    int added = 0;
-    // The editor does not say which key the database gave the order; the
-    // newest key is the one it has just inserted.
-    reportFailures(QStringLiteral("Nie można odczytać nowego zlecenia"),
-                   [&] { added = TZlecenia_przychObj(*session().Database).GetMaxId(); });
-    reloadAndSelect(added);
+    // The key the order's own insert got: the newest key of the table may
+    // be another workstation's order by now.
+    reloadAndSelect(editor->orderKey());
 }
 
 void TfrmZlecPrzychodzace::acPoprawExecute()
