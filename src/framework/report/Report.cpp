@@ -2,6 +2,7 @@
 
 #include "MessageService.h"
 #include "QtReportOutput.h"
+#include "ReportFailures.h"
 #include "ReportError.h"
 #include "ReportPainter.h"
 #include "ReportPreRenderer.h"
@@ -95,6 +96,11 @@ bool Report::prepareShowingErrors()
     try {
         prepare();
         return true;
+    } catch (const DbError &error) {
+        // The engine's words and the statement are for the log.
+        m_pages.clear();
+        reportFailure(QStringLiteral("Nie można przygotować wydruku \"%1\".").arg(m_title), error);
+        return false;
     } catch (const std::exception &error) {
         m_pages.clear();
         Messages::error(QStringLiteral("Nie można przygotować wydruku \"%1\".\n%2")

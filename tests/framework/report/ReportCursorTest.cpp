@@ -1,3 +1,5 @@
+#include "ErrorLog.h"
+#include "ErrorLogs.h"
 #include "Report.h"
 #include "ScriptedMessages.h"
 #include "Statement.h"
@@ -142,7 +144,12 @@ TEST(ReportCursor, FailingQueryIsReportedAndLeavesNoPages)
     ASSERT_EQ(scriptedMessages().shown().size(), 1u);
     const ScriptedMessages::Shown &box = scriptedMessages().shown().front();
     EXPECT_EQ(box.caption, QStringLiteral("Błąd"));
-    EXPECT_TRUE(box.text.contains(QStringLiteral("Table unknown"))) << box.text.toStdString();
+    EXPECT_TRUE(box.text.startsWith(QStringLiteral("Nie można przygotować wydruku")))
+        << box.text.toStdString();
+    EXPECT_FALSE(box.text.contains(QStringLiteral("NIEMA"))) << box.text.toStdString();
+    const QStringList logged = loggedToday(ErrorLog::SqlErrors);
+    ASSERT_EQ(logged.size(), 1);
+    EXPECT_TRUE(logged.front().contains(QStringLiteral("Table unknown - NIEMA")));
 }
 
 TEST(ReportCursor, UnknownColumnIsReportedByName)
@@ -158,5 +165,5 @@ TEST(ReportCursor, UnknownColumnIsReportedByName)
     scriptedMessages().expect(MessageService::Ok);
     EXPECT_FALSE(rates.report().prepareShowingErrors());
     ASSERT_EQ(scriptedMessages().shown().size(), 1u);
-    EXPECT_TRUE(scriptedMessages().shown().front().text.contains(QStringLiteral("KWOTA_NIEMA")));
+    EXPECT_TRUE(loggedToday(ErrorLog::SqlErrors).join(u'\n').contains(u"KWOTA_NIEMA"));
 }
