@@ -72,6 +72,8 @@ TfrmZlecPrzychodzace::TfrmZlecPrzychodzace(QWidget *owner) : TfrmRODefault(owner
     while (images->count() < ClosedOrderImage)
         images->add(QIcon());
     images->add(closedOrderIcon(images->size()));
+    // The padlock must not take the room of the 8 digits of "Numer".
+    list->setRowImageRoom(true);
     client->addWidget(frameListView1, 1);
 
     pnlBttns = new QWidget(pnlClient);
