@@ -45,6 +45,23 @@ int fail(const QString &message)
     return 1;
 }
 
+// The help goes to the console, where it was asked for, never into a box.
+int printUsage()
+{
+    QTextStream(stdout) << HostOptions::usage();
+    return 0;
+}
+
+bool asksForHelp(int argc, char **argv)
+{
+    QStringList arguments;
+    for (int i = 1; i < argc; ++i)
+        arguments << QString::fromLocal8Bit(argv[i]);
+    QString error;
+    const std::optional<HostOptions> options = HostOptions::parse(arguments, error);
+    return options && options->help;
+}
+
 bool userExists(Connection &connection, int userId)
 {
     Statement st(connection);
@@ -58,6 +75,9 @@ bool userExists(Connection &connection, int userId)
 
 int main(int argc, char **argv)
 {
+    // Before the display is needed: the help is plain text.
+    if (asksForHelp(argc, argv))
+        return printUsage();
     if (!haveDisplay()) {
         QTextStream(stderr)
             << "Brak ekranu (zmienna DISPLAY nie jest ustawiona).\n"
@@ -82,6 +102,9 @@ int main(int argc, char **argv)
         = HostOptions::parse(QApplication::arguments().mid(1), error);
     if (!options)
         return fail(error);
+    // Asked after Qt's own options (-platform ...), which Qt took out.
+    if (options->help)
+        return printUsage();
 
     Connection connection;
     QString target = options->database;

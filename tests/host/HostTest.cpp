@@ -97,6 +97,29 @@ TEST(Host, WithoutADisplayItSaysHowToRunHeadless)
     EXPECT_TRUE(errors.contains("xvfb-run haulix"));
 }
 
+TEST(Host, HelpIsPrintedOnTheConsoleWithOrWithoutADisplay)
+{
+    QProcessEnvironment headless = QProcessEnvironment::systemEnvironment();
+    for (const char *name : {"DISPLAY", "WAYLAND_DISPLAY", "QT_QPA_PLATFORM"})
+        headless.remove(QString::fromLatin1(name));
+    QProcessEnvironment offscreen = QProcessEnvironment::systemEnvironment();
+    offscreen.insert(QStringLiteral("QT_QPA_PLATFORM"), QStringLiteral("offscreen"));
+    for (const QProcessEnvironment &environment : {headless, offscreen}) {
+        for (const QString &asked : {QStringLiteral("--help"), QStringLiteral("-h")}) {
+            QProcess host;
+            host.setProcessEnvironment(environment);
+            host.start(Host, {QStringLiteral("--user"), QStringLiteral("2"), asked});
+            ASSERT_TRUE(host.waitForFinished(60000));
+            const QString usage = QString::fromUtf8(host.readAllStandardOutput());
+            EXPECT_EQ(host.exitCode(), 0) << asked.toStdString();
+            EXPECT_TRUE(usage.startsWith("Użycie: haulix [--db")) << usage.toStdString();
+            for (const char *option : {"--db", "--user", "--report", "--module", "RoadCards"})
+                EXPECT_TRUE(usage.contains(QLatin1String(option))) << option;
+            EXPECT_FALSE(host.readAllStandardError().contains("Nieznany"));
+        }
+    }
+}
+
 TEST(Host, AModuleItDoesNotKnowIsRefusedWithTheOnesItKnows)
 {
     const HostRun run = runHost(Host, {QStringLiteral("--module"), QStringLiteral("Kierowcy")});
