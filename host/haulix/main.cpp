@@ -10,6 +10,7 @@
 #include "SiblingEntryPoints.h"
 #include "SiblingRegisters.h"
 #include "ModuleEntryPoints.h"
+#include "PolishLanguage.h"
 #include "Statement.h"
 #include "TerminationSignals.h"
 #include "Transaction.h"
@@ -17,8 +18,6 @@
 #include <QApplication>
 #include <QDir>
 #include <QLibrary>
-#include <QLibraryInfo>
-#include <QTranslator>
 #include <QMessageBox>
 #include <QTextStream>
 
@@ -89,13 +88,7 @@ int main(int argc, char **argv)
     QApplication::setOrganizationName(QStringLiteral("Kelvaro"));
     QApplication::setApplicationName(QStringLiteral("Haulix"));
     QApplication::setApplicationVersion(QStringLiteral(HAULIX_VERSION));
-    QLocale::setDefault(QLocale(QLocale::Polish, QLocale::Poland));
-    // Qt's own dialogs (print preview, file prompts, message box buttons)
-    // speak Polish too; without the translations they stay English.
-    QTranslator qtTranslations;
-    if (qtTranslations.load(QLocale(), QStringLiteral("qtbase"), QStringLiteral("_"),
-                            QLibraryInfo::path(QLibraryInfo::TranslationsPath)))
-        QApplication::installTranslator(&qtTranslations);
+    usePolishLanguage();
 
     QString error;
     const std::optional<HostOptions> options
