@@ -51,8 +51,10 @@ TEST(TListViewRows, EveryRowIsAsHighAsTheFontAndTheImageWhateverTheFirstRowHolds
     std::vector<int> heights;
     for (const bool imageFirst : {false, true}) {
         ShownList shown;
-        shown.list.addItem(QStringLiteral("1"), {QStringLiteral("ŚLĄSK")}, 1, imageFirst ? 0 : -1);
-        shown.list.addItem(QStringLiteral("2"), {QStringLiteral("SLĄSK")}, 2, imageFirst ? -1 : 0);
+        const int first = imageFirst ? 0 : -1;
+        const int second = imageFirst ? -1 : 0;
+        shown.list.addItem(QStringLiteral("1"), {QStringLiteral("ŚLĄSK")}, 1, first);
+        shown.list.addItem(QStringLiteral("2"), {QStringLiteral("SLĄSK")}, 2, second);
         const int height = shown.cellRect(0, 1).height();
         EXPECT_EQ(shown.cellRect(1, 1).height(), height);
         EXPECT_GE(height, shown.images.size().height());

@@ -201,12 +201,13 @@ void TListView::updateImageRoom()
         option.rect = QRect(0, 0, 1000, rowHeight());
         option.text = QStringLiteral("0");
         option.features = QStyleOptionViewItem::HasDisplay;
-        const int plain = style()->subElementRect(QStyle::SE_ItemViewItemText, &option, this).left();
+        const auto textLeft = [&] {
+            return style()->subElementRect(QStyle::SE_ItemViewItemText, &option, this).left();
+        };
+        const int plain = textLeft();
         option.features |= QStyleOptionViewItem::HasDecoration;
         option.decorationSize = iconSize();
-        const int decorated
-            = style()->subElementRect(QStyle::SE_ItemViewItemText, &option, this).left();
-        m_imageRoom = std::max(0, decorated - plain);
+        m_imageRoom = std::max(0, textLeft() - plain);
     }
     if (captionWidth > 0)
         setColumnWidth(0, captionWidth);

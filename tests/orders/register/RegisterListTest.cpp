@@ -110,7 +110,8 @@ TEST_F(RegisterList, AtItsMinimumWidthTheSearchBoxStaysUsableAndEveryButtonReada
     QApplication::processEvents();
     const TframeListView &frame = *form->frameListView1;
     const QLineEdit &box = *frame.edSearch;
-    EXPECT_GE(box.width(), box.fontMetrics().horizontalAdvance(QStringLiteral("Mleczarnia Wąchock")));
+    const QString name = QStringLiteral("Mleczarnia Wąchock");
+    EXPECT_GE(box.width(), box.fontMetrics().horizontalAdvance(name));
 
     const QWidget &row = *frame.pnlSearch->topRow();
     int left = box.geometry().right();
