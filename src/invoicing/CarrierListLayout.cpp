@@ -45,6 +45,16 @@ ReportLabel &CarrierListLayout::addCell(ReportBand &band, const Column &column, 
         .setAlignment(column.alignment | Qt::AlignVCenter);
 }
 
+void CarrierListLayout::addInvoiceCells(ReportBand &band, const Column *columns,
+                                        std::function<const CarrierInvoiceRow &()> row)
+{
+    addCell(band, columns[0], [row] { return QString::number(row().orderNumber); });
+    addCell(band, columns[1], [row] { return row().number; });
+    addCell(band, columns[2], [row] { return date(row().received); });
+    addCell(band, columns[3], [row] { return date(row().issued); });
+    addCell(band, columns[4], [row] { return date(row().due); });
+}
+
 void CarrierListLayout::addTotal(ReportBand &band, const QString &name, const QString &caption,
                                  const Column &amountColumn, std::function<QString()> amount)
 {

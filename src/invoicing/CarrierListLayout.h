@@ -1,5 +1,6 @@
 #pragma once
 
+#include "CarrierInvoiceRow.h"
 #include "PrintoutLayout.h"
 #include "Report.h"
 
@@ -30,6 +31,10 @@ void addHeading(Report &report, std::function<QString()> companyName, double wid
 void addColumnHeader(Report &report, const Column *columns, int count);
 // A detail cell of a column: the text sits inside the column's span.
 ReportLabel &addCell(ReportBand &band, const Column &column, PrintoutLayout::Text text);
+// The cells every list starts its line with, from its first five columns:
+// the order's number, the invoice's number, its receipt, issue and due dates.
+void addInvoiceCells(ReportBand &band, const Column *columns,
+                     std::function<const CarrierInvoiceRow &()> row);
 // A total: the caption ends where the amount column starts.
 void addTotal(ReportBand &band, const QString &name, const QString &caption,
               const Column &amountColumn, std::function<QString()> amount);

@@ -50,11 +50,7 @@ void TFrmNiezaplaconeList::qrNiezaplaconeListBeforePrint()
 void TFrmNiezaplaconeList::buildDetail()
 {
     ReportBand &band = m_report.addBand(BandType::Detail, QStringLiteral("QRBandPozycja"), Line);
-    addCell(band, Columns[Order], [this] { return QString::number(row().orderNumber); });
-    addCell(band, Columns[Number], [this] { return row().number; });
-    addCell(band, Columns[Received], [this] { return date(row().received); });
-    addCell(band, Columns[Issued], [this] { return date(row().issued); });
-    addCell(band, Columns[Due], [this] { return date(row().due); });
+    addInvoiceCells(band, Columns, [this]() -> const CarrierInvoiceRow & { return row(); });
     addCell(band, Columns[Carrier], [this] { return row().shortName; });
     addCell(band, Columns[Amount], [this] { return money(row().amount); });
     addCell(band, Columns[Paid], [this] { return money(row().paidAmount); });

@@ -186,8 +186,13 @@ TEST_F(RegisterCarriers, TheCarriersInvoiceIsEnteredForTheSelectedOrderWhichIsSh
         QTest::mouseClick(dialog.btnOk, Qt::LeftButton);
         return dialog.result();
     });
-    QTest::mouseClick(form->BtnFakturaObca, Qt::LeftButton);
-    EXPECT_TRUE(scriptedModalRunner().allRun());
+    // Alt+B, as the button's caption says.
+    form->show();
+    form->activateWindow();
+    ASSERT_TRUE(QTest::qWaitForWindowActive(form.get()));
+    form->frameListView1->lvMain->setFocus();
+    QTest::keyClick(form->frameListView1->lvMain, Qt::Key_B, Qt::AltModifier);
+    EXPECT_TRUE(QTest::qWaitFor([] { return scriptedModalRunner().allRun(); }));
     EXPECT_EQ(order(key).NUMER_FAKT_PRZEW, "FV 7/2026/K");
     EXPECT_EQ(order(key).NRRAMPY, 0);
     EXPECT_EQ(cell(*form, key, Col::FaktPrzewoznika), "FV 7/2026/K");
