@@ -9,6 +9,7 @@
 // unless told) and C road cards (3,000: ten vehicles over some years).
 #include "CarrierInvoiceList.h"
 #include "Connection.h"
+#include "CountOptions.h"
 #include "DemoSeeder.h"
 #include "OffscreenProgram.h"
 #include "PdfBook.h"
@@ -37,23 +38,9 @@ struct Arguments
 
 bool parse(const QStringList &arguments, Arguments &parsed)
 {
-    if (arguments.size() % 2 != 0)
-        return false;
-    for (qsizetype i = 0; i < arguments.size(); i += 2) {
-        bool ok = false;
-        const int value = arguments[i + 1].toInt(&ok);
-        if (!ok || value <= 0)
-            return false;
-        if (arguments[i] == QLatin1String("--orders"))
-            parsed.orders = value;
-        else if (arguments[i] == QLatin1String("--cards"))
-            parsed.cards = value;
-        else if (arguments[i] == QLatin1String("--pairs"))
-            parsed.pairs = value;
-        else
-            return false;
-    }
-    return true;
+    return parseCountOptions(arguments, {{QStringLiteral("--orders"), &parsed.orders},
+                                         {QStringLiteral("--cards"), &parsed.cards},
+                                         {QStringLiteral("--pairs"), &parsed.pairs}});
 }
 
 double milliseconds(const std::function<void()> &step)
