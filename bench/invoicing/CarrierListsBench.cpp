@@ -10,12 +10,11 @@
 #include "CarrierInvoiceList.h"
 #include "Connection.h"
 #include "CountOptions.h"
-#include "DemoSeeder.h"
 #include "OffscreenProgram.h"
 #include "PdfBook.h"
 #include "PrintJobs.h"
 #include "RoadCardItems.h"
-#include "Schema.h"
+#include "SeededDatabase.h"
 #include "Statement.h"
 #include "TKarty_drObj.h"
 #include "Transaction.h"
@@ -114,13 +113,9 @@ int main(int argc, char **argv)
     }
     try {
         QTemporaryDir scratch;
-        const QString path = scratch.filePath(QStringLiteral("carriers-bench.fdb"));
-        Schema::createDatabase(path);
         Connection connection;
-        connection.open(path);
-        DemoSeeder::Options options;
-        options.orders = arguments.orders;
-        DemoSeeder(connection, options).seed();
+        openSeededDatabase(connection, scratch.filePath(QStringLiteral("carriers-bench.fdb")),
+                           arguments.orders);
         addCards(connection, arguments.cards);
 
         const QDate today = QDate::currentDate();

@@ -13,7 +13,7 @@
 #include "OffscreenProgram.h"
 #include "PdfBook.h"
 #include "PrintJobs.h"
-#include "Schema.h"
+#include "SeededDatabase.h"
 #include "Statement.h"
 #include "TableObjects.h"
 #include "Transaction.h"
@@ -139,13 +139,9 @@ int main(int argc, char **argv)
     }
     try {
         QTemporaryDir scratch;
-        const QString path = scratch.filePath(QStringLiteral("printouts-bench.fdb"));
-        Schema::createDatabase(path);
         Connection connection;
-        connection.open(path);
-        DemoSeeder::Options options;
-        options.orders = arguments.orders;
-        DemoSeeder(connection, options).seed();
+        openSeededDatabase(connection, scratch.filePath(QStringLiteral("printouts-bench.fdb")),
+                           arguments.orders);
         const int many = invoiceOfManyOrders(connection, CoveredOrders);
         const int one = scalar(connection,
                                QStringLiteral("SELECT FIRST 1 IDFAKTURY FROM ZLECENIA_PRZYCH"
