@@ -20,7 +20,7 @@ namespace {
 
 // Written into the marker; a demo database of another edition (an older
 // schema, other demo data) is made again.
-constexpr char Edition[] = "2: TERMINY, sibling registers";
+constexpr char Edition[] = "3: carriers' invoices paid and unpaid";
 
 bool currentEdition(const QString &marker)
 {
