@@ -19,7 +19,7 @@
 #include <QMenu>
 #include <QPushButton>
 #include <QRadioButton>
-#include <QSpinBox>
+#include "TLimitedSpinEdit.h"
 
 namespace {
 

@@ -133,6 +133,7 @@ void TfrmRODefault::ensureCreated()
     FormCreate();
     connectModalResults();
     InitializeForm();
+    putFooterLast();
     sendToFrames(FrameEvents::BuildMenus);
 }
 

@@ -2,12 +2,12 @@
 #include "OrderListColumns.h"
 #include "RegisterFixture.h"
 #include "Statement.h"
+#include "TDateEdit.h"
 #include "TImageList.h"
 #include "TRadioGroup.h"
 #include "TframeListView.h"
 
 #include <QComboBox>
-#include <QDateEdit>
 #include <QLabel>
 
 namespace {
