@@ -8,12 +8,19 @@
 
 namespace {
 
+// Qt shows a button pressed for 100 ms when its accelerator is used.
+constexpr int AnimatedClick = 200;
+
 // QTest knows keys for ASCII only; other letters arrive as their text,
-// as from a Polish keyboard layout.
+// as from a Polish keyboard layout. A line break is Enter, a tab Tab.
 void typeInto(QWidget *widget, const QString &text)
 {
     for (const QChar c : text) {
-        if (c.unicode() < 128)
+        if (c == u'\n')
+            QTest::keyClick(widget, Qt::Key_Return);
+        else if (c == u'\t')
+            QTest::keyClick(widget, Qt::Key_Tab);
+        else if (c.unicode() < 128)
             QTest::keyClick(widget, c.toLatin1());
         else
             QTest::sendKeyEvent(QTest::Click, widget, Qt::Key_unknown, QString(c), Qt::NoModifier);
@@ -64,4 +71,15 @@ void Typing::press(Qt::Key key, Qt::KeyboardModifiers modifiers)
 {
     if (QWidget *widget = focused())
         QTest::keyClick(widget, key, modifiers);
+}
+
+void Typing::accelerator(Qt::Key letter)
+{
+    press(letter, Qt::AltModifier);
+    QTest::qWait(AnimatedClick);
+}
+
+bool Typing::closes(const QWidget *window)
+{
+    return QTest::qWaitFor([window] { return !window->isVisible(); }, 2000);
 }

@@ -18,9 +18,14 @@ void click(QWidget *button);
 // focus is and accelerators such as Alt+Z work.
 void activate(QWidget *window);
 // Types into whatever has the focus, key by key; the focus may move on
-// the way (Enter, Tab).
+// the way ("\n" is Enter, "\t" Tab).
 void keys(const QString &text);
 // One key, with modifiers, to whatever has the focus.
 void press(Qt::Key key, Qt::KeyboardModifiers modifiers = Qt::NoModifier);
+// Alt and a letter, a button's accelerator. The button is drawn pressed
+// for a moment before it acts; this returns after that moment.
+void accelerator(Qt::Key letter);
+// Whether the window closes (at once or within two seconds).
+bool closes(const QWidget *window);
 
 } // namespace Typing

@@ -144,6 +144,10 @@ void TTypedEdit::focusInEvent(QFocusEvent *event)
     if (!m_edited)
         lineEdit()->setText(editedText());
     QAbstractSpinBox::focusInEvent(event);
+    // Coming from the keyboard, or at a form's start, typing replaces the
+    // value; a click puts the cursor where it was clicked.
+    if (event->reason() != Qt::MouseFocusReason)
+        selectAll();
 }
 
 void TTypedEdit::focusOutEvent(QFocusEvent *event)
