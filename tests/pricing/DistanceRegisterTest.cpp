@@ -180,3 +180,28 @@ TEST_F(DistanceRegister, EscClosesTheRegisterAndTheDistanceEditorWithoutSaving)
     EXPECT_FALSE(form->isVisible());
     EXPECT_EQ(form->result(), TfrmRODefault::mrCancel);
 }
+
+TEST_F(DistanceRegister, TheDistanceEditorStartsInTheDistanceAndSavesWhatIsTyped)
+{
+    auto form = open();
+    Typing::activate(form.get());
+    scriptedModalRunner().expect<TfrmAddEditMiasta>([](TfrmAddEditMiasta &d) {
+        Typing::activate(&d);
+        // The cities only show the route; the distance is what is typed.
+        EXPECT_EQ(QApplication::focusWidget(), d.edOdleglosc);
+        Typing::keys(QStringLiteral("-3abc15"));
+        EXPECT_EQ(d.edOdleglosc->text(), "315");
+        Typing::press(Qt::Key_Return);
+        EXPECT_TRUE(d.isVisible());
+        Typing::accelerator(Qt::Key_Z);
+        EXPECT_TRUE(Typing::closes(&d));
+        return d.result();
+    });
+    list(*form).setFocus();
+    list(*form).setSelectedIndex(list(*form).findByKey(toGdansk));
+    Typing::press(Qt::Key_Return);
+    EXPECT_TRUE(scriptedModalRunner().allRun());
+    EXPECT_EQ(db.scalar(QStringLiteral("SELECT ODLEGLOSC FROM ODLEGLOSCI WHERE ID_ODLEGLOSCI = %1")
+                            .arg(toGdansk)),
+              "315");
+}

@@ -183,6 +183,7 @@ void TfrmRODefault::showEvent(QShowEvent *event)
     ensureCreated();
     QDialog::showEvent(event);
     FormShow();
+    skipReadOnlyStart();
 }
 
 void TfrmRODefault::FormShow()

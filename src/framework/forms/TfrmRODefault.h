@@ -116,12 +116,16 @@ private:
     void typeAhead(QComboBox *combo, const QString &typed);
     void attachEnterHandler(QWidget *control);
     // The next field in tab order that Enter moves to: an edit, list, date
-    // or number field of the form itself, never a button.
+    // or number field of the form itself that can be typed into, never a
+    // button.
     QWidget *nextInputField(QWidget *from) const;
     bool isInputField(QWidget *widget) const;
     // The footer's buttons come after every field in tab order, so that
     // a form starts in its first field and Tab ends on its buttons.
     void putFooterLast();
+    // A form whose first field only shows a value (a read-only edit) starts
+    // in the first field that can be typed into.
+    void skipReadOnlyStart();
     // Before a button of the form acts (click, Space, Enter, accelerator),
     // what is typed is taken; true when the button must not act.
     bool stopsButton(QObject *watched, QEvent *event);

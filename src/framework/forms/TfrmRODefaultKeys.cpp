@@ -18,17 +18,37 @@
 
 namespace {
 
+bool isReadOnly(const QWidget *widget)
+{
+    if (const auto *edit = qobject_cast<const QLineEdit *>(widget))
+        return edit->isReadOnly();
+    if (const auto *spin = qobject_cast<const QAbstractSpinBox *>(widget))
+        return spin->isReadOnly();
+    if (const auto *memo = qobject_cast<const QPlainTextEdit *>(widget))
+        return memo->isReadOnly();
+    if (const auto *text = qobject_cast<const QTextEdit *>(widget))
+        return text->isReadOnly();
+    return false;
+}
+
 bool isEditable(const QWidget *widget)
 {
     // The edit inside a combo box or a spin box is part of that control.
     const QWidget *parent = widget->parentWidget();
     const bool inner
         = qobject_cast<const QComboBox *>(parent) || qobject_cast<const QAbstractSpinBox *>(parent);
-    return (qobject_cast<const QLineEdit *>(widget) && !inner)
-           || qobject_cast<const QComboBox *>(widget)
-           || qobject_cast<const QAbstractSpinBox *>(widget)
-           || qobject_cast<const QPlainTextEdit *>(widget)
-           || qobject_cast<const QTextEdit *>(widget);
+    const bool field = (qobject_cast<const QLineEdit *>(widget) && !inner)
+                       || qobject_cast<const QComboBox *>(widget)
+                       || qobject_cast<const QAbstractSpinBox *>(widget)
+                       || qobject_cast<const QPlainTextEdit *>(widget)
+                       || qobject_cast<const QTextEdit *>(widget);
+    return field && !isReadOnly(widget);
+}
+
+bool takesTabFocus(const QWidget *widget, const QWidget *form)
+{
+    return widget->isEnabled() && widget->isVisibleTo(form)
+           && (widget->focusPolicy() & Qt::TabFocus);
 }
 
 } // namespace
@@ -37,8 +57,7 @@ QWidget *TfrmRODefault::nextInputField(QWidget *from) const
 {
     for (QWidget *widget = from->nextInFocusChain(); widget != from;
          widget = widget->nextInFocusChain()) {
-        if (isInputField(widget) && widget->isEnabled() && widget->isVisibleTo(this)
-            && (widget->focusPolicy() & Qt::TabFocus))
+        if (isInputField(widget) && takesTabFocus(widget, this))
             return widget;
     }
     return nullptr;
@@ -73,6 +92,22 @@ void TfrmRODefault::putFooterLast()
         if (lastField)
             setTabOrder(lastField, button);
         lastField = button;
+    }
+}
+
+void TfrmRODefault::skipReadOnlyStart()
+{
+    if (focusWidget())
+        return;
+    for (QWidget *widget = nextInFocusChain(); widget != this; widget = widget->nextInFocusChain()) {
+        if (!takesTabFocus(widget, this))
+            continue;
+        // Anything else is where Qt starts a form anyway.
+        if (!qobject_cast<QLineEdit *>(widget) || !isReadOnly(widget))
+            return;
+        if (QWidget *field = nextInputField(widget))
+            field->setFocus(Qt::TabFocusReason);
+        return;
     }
 }
 

@@ -14,6 +14,8 @@ TLimitedFloatEdit::TLimitedFloatEdit(QWidget *parent) : TLimitedFloatEdit(Defaul
 
 TLimitedFloatEdit::TLimitedFloatEdit(int decimals, QWidget *parent) : TNumberEdit(parent)
 {
+    // A spin edit: its arrows step the value as Up and Down do.
+    setButtonSymbols(QAbstractSpinBox::UpDownArrows);
     buildPattern(decimals);
 }
 
