@@ -5,6 +5,7 @@
 #include "ScriptedModalRunner.h"
 #include "TBitBtn.h"
 #include "TDateEdit.h"
+#include "TLimitedSpinEdit.h"
 #include "TNumberEdit.h"
 #include "TZlecenia_przychObj.h"
 #include "TfrmAddEditZlecenia_Przych.h"
@@ -14,7 +15,6 @@
 #include <QLineEdit>
 #include <QPlainTextEdit>
 #include <QRadioButton>
-#include <QSpinBox>
 
 namespace {
 

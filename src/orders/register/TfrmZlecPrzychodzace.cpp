@@ -9,6 +9,7 @@
 #include "SessionContext.h"
 #include "TBitBtn.h"
 #include "TDaneFirmy.h"
+#include "TDateEdit.h"
 #include "TImageList.h"
 #include "TRadioGroup.h"
 #include "TframeListView.h"
@@ -16,7 +17,6 @@
 #include <QAction>
 #include <QBoxLayout>
 #include <QComboBox>
-#include <QDateEdit>
 #include <QLabel>
 #include <QMenu>
 
@@ -25,12 +25,11 @@ namespace {
 constexpr int MinimumWidth = 712;
 constexpr QSize InitialSize(963, 649);
 
-QDateEdit *dateEdit(const QString &name, QWidget *parent)
+TDateEdit *dateEdit(const QString &name, QWidget *parent)
 {
-    auto *edit = new QDateEdit(parent);
+    auto *edit = new TDateEdit(parent);
     edit->setObjectName(name);
-    edit->setCalendarPopup(true);
-    edit->setDisplayFormat(QStringLiteral("yyyy-MM-dd"));
+    edit->setEmptyAllowed(false);
     return edit;
 }
 

@@ -5,10 +5,10 @@
 
 class QAction;
 class QComboBox;
-class QDateEdit;
 class QLabel;
 class QMenu;
 class TBitBtn;
+class TDateEdit;
 class TRadioGroup;
 class TframeListView;
 
@@ -41,8 +41,8 @@ public:
     double total() const { return m_total; }
 
     // Filters.
-    QDateEdit *deOd;
-    QDateEdit *deDo;
+    TDateEdit *deOd;
+    TDateEdit *deDo;
     TRadioGroup *RadioGroup1;   // "Rodzaj zlecenia"
     TRadioGroup *RadioGroup2;   // "Umiejscowienie", hidden
     QLabel *Label4;             // "Dysponent:", hidden

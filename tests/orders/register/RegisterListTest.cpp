@@ -2,13 +2,13 @@
 #include "OrderListColumns.h"
 #include "RegisterFixture.h"
 #include "Statement.h"
+#include "TDateEdit.h"
 #include "TImageList.h"
 #include "TRadioGroup.h"
 #include "TframeListView.h"
 
 #include <QApplication>
 #include <QComboBox>
-#include <QDateEdit>
 #include <QLabel>
 #include <QLineEdit>
 #include <QPushButton>
