@@ -18,7 +18,7 @@ QString templatePath()
     static QTemporaryDir dir;
     static const QString path = [] {
         const QString file = dir.filePath(QStringLiteral("template.fdb"));
-        Schema::createDatabase(file);
+        Schema::createDatabase(file, Schema::ForcedWrites::Off);
         return file;
     }();
     return path;

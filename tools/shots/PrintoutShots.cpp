@@ -26,7 +26,7 @@ public:
     PrintoutCompany() : QObject(QCoreApplication::instance())
     {
         const QString path = m_dir.filePath(QStringLiteral("printouts.fdb"));
-        Schema::createDatabase(path);
+        Schema::createDatabase(path, Schema::ForcedWrites::Off);
         m_connection.open(path);
         DemoSeeder::Options options;
         options.orders = 120;

@@ -23,7 +23,7 @@ public:
     DemoCompany() : m_previous(session())
     {
         const QString path = m_dir.filePath(QStringLiteral("register.fdb"));
-        Schema::createDatabase(path);
+        Schema::createDatabase(path, Schema::ForcedWrites::Off);
         m_connection.open(path);
         DemoSeeder::Options options;
         options.orders = 120;
