@@ -84,7 +84,7 @@ TfrmFaktPrzew::TfrmFaktPrzew(QWidget *owner, int orderKey, const CarrierInvoice 
     fill(invoice);
     // Connected once the fields hold the order's values, so that filling
     // the issue date does not overwrite the stored payment date.
-    connect(DEwystawienia, &QDateEdit::dateChanged, this, &TfrmFaktPrzew::DEwystawieniaChange);
+    connect(DEwystawienia, &TDateEdit::dateChanged, this, &TfrmFaktPrzew::DEwystawieniaChange);
     connect(CEKWOTA, &QAbstractSpinBox::editingFinished, this, &TfrmFaktPrzew::CEKWOTAExit);
     connect(btnOk, &TBitBtn::clicked, this, &TfrmFaktPrzew::btnOkClick);
     resize(460, 400);

@@ -54,7 +54,7 @@ void TDateEdit::setValue(DateTime value)
 
 void TDateEdit::setDate(const QDate &date)
 {
-    m_date = date.isValid() ? date : QDate();
+    changeDate(date.isValid() ? date : QDate());
     showValue();
 }
 
@@ -123,7 +123,15 @@ QString TDateEdit::textProblem(const QString &text) const
 
 void TDateEdit::take(const QString &text)
 {
-    m_date = TypedDate::read(text, QDate::currentDate()).value_or(m_date);
+    changeDate(TypedDate::read(text, QDate::currentDate()).value_or(m_date));
+}
+
+void TDateEdit::changeDate(const QDate &date)
+{
+    if (date == m_date)
+        return;
+    m_date = date;
+    Q_EMIT dateChanged(date);
 }
 
 QString TDateEdit::shownText() const

@@ -38,6 +38,10 @@ public:
 
     void stepBy(int steps) override;
 
+Q_SIGNALS:
+    // The date changed, typed, stepped, chosen or set (null when emptied).
+    void dateChanged(const QDate &date);
+
 protected:
     StepEnabled stepEnabled() const override;
     void keyPressEvent(QKeyEvent *event) override;
@@ -51,6 +55,7 @@ protected:
 
 private:
     void calendarChosen(const QDate &date);
+    void changeDate(const QDate &date);
 
     QDate m_date;
     bool m_emptyAllowed = true;
