@@ -21,6 +21,7 @@ bench: build
 	$(BUILD)/bin/haulix-bench
 	$(BUILD)/bin/haulix-bench-register
 	$(BUILD)/bin/haulix-bench-printouts
+	$(BUILD)/bin/haulix-bench-carriers
 
 clean:
 	rm -rf $(BUILD)

@@ -7,12 +7,13 @@
 // A temporary database is seeded with the demo company (N orders, 600
 // unless told); the 200-order invoice is made there from its orders.
 #include "Connection.h"
+#include "CountOptions.h"
 #include "DbError.h"
 #include "DemoSeeder.h"
 #include "OffscreenProgram.h"
 #include "PdfBook.h"
 #include "PrintJobs.h"
-#include "Schema.h"
+#include "SeededDatabase.h"
 #include "Statement.h"
 #include "TableObjects.h"
 #include "Transaction.h"
@@ -35,21 +36,8 @@ struct Arguments
 
 bool parse(const QStringList &arguments, Arguments &parsed)
 {
-    if (arguments.size() % 2 != 0)
-        return false;
-    for (qsizetype i = 0; i < arguments.size(); i += 2) {
-        bool ok = false;
-        const int value = arguments[i + 1].toInt(&ok);
-        if (!ok || value <= 0)
-            return false;
-        if (arguments[i] == QLatin1String("--orders"))
-            parsed.orders = value;
-        else if (arguments[i] == QLatin1String("--repetitions"))
-            parsed.repetitions = value;
-        else
-            return false;
-    }
-    return true;
+    return parseCountOptions(arguments, {{QStringLiteral("--orders"), &parsed.orders},
+                                         {QStringLiteral("--repetitions"), &parsed.repetitions}});
 }
 
 int scalar(Connection &connection, const QString &sql)
@@ -151,13 +139,9 @@ int main(int argc, char **argv)
     }
     try {
         QTemporaryDir scratch;
-        const QString path = scratch.filePath(QStringLiteral("printouts-bench.fdb"));
-        Schema::createDatabase(path);
         Connection connection;
-        connection.open(path);
-        DemoSeeder::Options options;
-        options.orders = arguments.orders;
-        DemoSeeder(connection, options).seed();
+        openSeededDatabase(connection, scratch.filePath(QStringLiteral("printouts-bench.fdb")),
+                           arguments.orders);
         const int many = invoiceOfManyOrders(connection, CoveredOrders);
         const int one = scalar(connection,
                                QStringLiteral("SELECT FIRST 1 IDFAKTURY FROM ZLECENIA_PRZYCH"

@@ -14,6 +14,7 @@
 
 #include <QCoreApplication>
 #include <QElapsedTimer>
+#include <QRegularExpression>
 #include <QTextStream>
 
 #include <cstdio>
@@ -53,12 +54,32 @@ void printSummary(const QString &path)
     out().flush();
 }
 
-int seed(const QString &path, int orders)
+// A path as it must be typed in the shell.
+QString shellWord(const QString &path)
+{
+    static const QRegularExpression plain(QStringLiteral("^[A-Za-z0-9_./:@%+=,-]+$"));
+    if (plain.match(path).hasMatch())
+        return path;
+    return QLatin1Char('\'') + QString(path).replace(u'\'', QStringLiteral("'\\''"))
+        + QLatin1Char('\'');
+}
+
+int seed(const QString &path, int orders, const QString &ordersArgument)
 {
     QElapsedTimer timer;
     timer.start();
     Connection connection;
     connection.open(path);
+    if (DemoSeeder::contents(connection) == DemoSeeder::Contents::SeedLeftovers) {
+        // Only a new database gives the keys back.
+        connection.close();
+        err() << "Błąd: " << DemoSeeder::describe(DemoSeeder::Contents::SeedLeftovers) << '\n'
+              << "Aby zacząć od nowa, usuń plik bazy i wykonaj:\n"
+              << "  haulix-admin create " << shellWord(path) << '\n'
+              << "  haulix-admin seed " << shellWord(path) << ordersArgument << '\n';
+        err().flush();
+        return 1;
+    }
     DemoSeeder::Options options;
     options.orders = orders;
     DemoSeeder(connection, options).seed();
@@ -88,7 +109,9 @@ int main(int argc, char **argv)
         }
         if (command == QLatin1String("seed") && (args.size() == 2 || args.size() == 4)) {
             int orders = DemoSeeder::Options().orders;
+            QString ordersArgument;
             if (args.size() == 4) {
+                ordersArgument = QLatin1Char(' ') + args[2] + QLatin1Char(' ') + args[3];
                 bool ok = false;
                 orders = args[3].toInt(&ok);
                 if (args[2] != QLatin1String("--orders") || !ok || orders < 0) {
@@ -96,7 +119,7 @@ int main(int argc, char **argv)
                     return 2;
                 }
             }
-            return seed(args[1], orders);
+            return seed(args[1], orders, ordersArgument);
         }
         if (command == QLatin1String("summary") && args.size() == 2) {
             printSummary(args[1]);

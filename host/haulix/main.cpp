@@ -10,6 +10,7 @@
 #include "SiblingEntryPoints.h"
 #include "SiblingRegisters.h"
 #include "ModuleEntryPoints.h"
+#include "PolishLanguage.h"
 #include "Statement.h"
 #include "TerminationSignals.h"
 #include "Transaction.h"
@@ -17,8 +18,6 @@
 #include <QApplication>
 #include <QDir>
 #include <QLibrary>
-#include <QLibraryInfo>
-#include <QTranslator>
 #include <QMessageBox>
 #include <QTextStream>
 
@@ -45,6 +44,23 @@ int fail(const QString &message)
     return 1;
 }
 
+// The help goes to the console, where it was asked for, never into a box.
+int printUsage()
+{
+    QTextStream(stdout) << HostOptions::usage();
+    return 0;
+}
+
+bool asksForHelp(int argc, char **argv)
+{
+    QStringList arguments;
+    for (int i = 1; i < argc; ++i)
+        arguments << QString::fromLocal8Bit(argv[i]);
+    QString error;
+    const std::optional<HostOptions> options = HostOptions::parse(arguments, error);
+    return options && options->help;
+}
+
 bool userExists(Connection &connection, int userId)
 {
     Statement st(connection);
@@ -58,6 +74,9 @@ bool userExists(Connection &connection, int userId)
 
 int main(int argc, char **argv)
 {
+    // Before the display is needed: the help is plain text.
+    if (asksForHelp(argc, argv))
+        return printUsage();
     if (!haveDisplay()) {
         QTextStream(stderr)
             << "Brak ekranu (zmienna DISPLAY nie jest ustawiona).\n"
@@ -69,19 +88,16 @@ int main(int argc, char **argv)
     QApplication::setOrganizationName(QStringLiteral("Kelvaro"));
     QApplication::setApplicationName(QStringLiteral("Haulix"));
     QApplication::setApplicationVersion(QStringLiteral(HAULIX_VERSION));
-    QLocale::setDefault(QLocale(QLocale::Polish, QLocale::Poland));
-    // Qt's own dialogs (print preview, file prompts, message box buttons)
-    // speak Polish too; without the translations they stay English.
-    QTranslator qtTranslations;
-    if (qtTranslations.load(QLocale(), QStringLiteral("qtbase"), QStringLiteral("_"),
-                            QLibraryInfo::path(QLibraryInfo::TranslationsPath)))
-        QApplication::installTranslator(&qtTranslations);
+    usePolishLanguage();
 
     QString error;
     const std::optional<HostOptions> options
         = HostOptions::parse(QApplication::arguments().mid(1), error);
     if (!options)
         return fail(error);
+    // Asked after Qt's own options (-platform ...), which Qt took out.
+    if (options->help)
+        return printUsage();
 
     Connection connection;
     QString target = options->database;

@@ -15,13 +15,27 @@ std::optional<PrintCommand> PrintCommand::parse(const QStringList &arguments, QS
         error = QStringLiteral("Nieznany wydruk: %1.\n").arg(arguments.at(2)) + usage();
         return std::nullopt;
     }
-    command.arguments = arguments.mid(3, arguments.size() - 4);
+    QStringList options;
+    for (const QString &argument : arguments.mid(3, arguments.size() - 4)) {
+        // An option's value follows it.
+        if (options.size() % 2 == 1 || command.job->options.contains(argument))
+            options << argument;
+        else
+            command.arguments << argument;
+    }
+    if (options.size() % 2 == 1) {
+        error = QStringLiteral("Opcja %1 wymaga wartości.\n").arg(options.last()) + usage();
+        return std::nullopt;
+    }
     if (command.arguments.size() != command.job->argumentCount) {
-        error = QStringLiteral("Wydruk %1 wymaga argumentów: %2.\n")
+        error = (command.job->argumentCount == 0
+                     ? QStringLiteral("Wydruk %1 nie ma argumentów poza opcjami: %2.\n")
+                     : QStringLiteral("Wydruk %1 wymaga argumentów: %2.\n"))
                     .arg(command.job->name, command.job->arguments)
             + usage();
         return std::nullopt;
     }
+    command.arguments << options;
     command.file = arguments.last();
     return command;
 }
@@ -31,7 +45,7 @@ QString PrintCommand::usage()
     QString text = QStringLiteral("Użycie: haulix-print --db BAZA WYDRUK [ARGUMENTY] PLIK.pdf\n"
                                   "Wydruki:\n");
     for (const PrintJobs::Job &job : PrintJobs::all()) {
-        text += QStringLiteral("  %1 %2").arg(job.name, job.arguments).leftJustified(34)
+        text += QStringLiteral("  %1 %2").arg(job.name, job.arguments).leftJustified(40)
             + job.description + u'\n';
     }
     return text;

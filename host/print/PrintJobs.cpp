@@ -1,5 +1,6 @@
 #include "PrintJobs.h"
 
+#include "CarrierPrintJobs.h"
 #include "PdfBook.h"
 #include "TfrmPrintReport.h"
 #include "TfrmRachunekPL.h"
@@ -56,6 +57,18 @@ const std::vector<PrintJobs::Job> &PrintJobs::all()
              TfrmPrintReport printout(connection, keyOf(arguments.at(0)));
              book.add(printout.qrZlecenie());
          }},
+        {QStringLiteral("carriers-unpaid"), QStringLiteral("[--carrier ID]"),
+         QStringLiteral("faktury przewoźników niezapłacone"), 0, CarrierPrintJobs::unpaid,
+         {QStringLiteral("--carrier")}},
+        {QStringLiteral("carriers-paid"), QStringLiteral("OD DO [--carrier ID]"),
+         QStringLiteral("faktury przewoźników zapłacone od OD do DO (rrrr-mm-dd)"), 2,
+         CarrierPrintJobs::paid, {QStringLiteral("--carrier")}},
+        {QStringLiteral("carriers-issued"), QStringLiteral("OD DO [--carrier ID]"),
+         QStringLiteral("faktury przewoźników wystawione od OD do DO (rrrr-mm-dd)"), 2,
+         CarrierPrintJobs::issued, {QStringLiteral("--carrier")}},
+        {QStringLiteral("carriers-payment"), QString(),
+         QStringLiteral("płatność - przewoźnicy: niezapłacone według daty zapłaty"), 0,
+         CarrierPrintJobs::payments},
     };
     return jobs;
 }

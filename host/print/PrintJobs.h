@@ -23,6 +23,10 @@ struct Job
     // Throws PrintoutError for data that is not there, DbError when the
     // database fails, std::invalid_argument for a malformed argument.
     std::function<void(PdfBook &book, Connection &connection, const QStringList &arguments)> run;
+    // Options the job also takes, each with one value ("--carrier"). The
+    // command line may give them anywhere after the job's name; the job
+    // gets them after its arguments.
+    QStringList options = {};
 };
 
 const std::vector<Job> &all();

@@ -112,3 +112,31 @@ void Connection::createDatabase(const QString &target, const QString &user, cons
     }
     isc_detach_database(status, &db);
 }
+
+void Connection::setForcedWrites(const QString &target, bool on, const QString &user,
+                                 const QString &password)
+{
+    FirebirdEnvironment::prepare();
+    const QByteArray name = user.toUtf8();
+    const QByteArray secret = password.toUtf8();
+    QByteArray dpb;
+    dpb.append(char(isc_dpb_version1));
+    const auto add = [&dpb](char item, const QByteArray &value) {
+        dpb.append(item);
+        dpb.append(char(value.size()));
+        dpb.append(value);
+    };
+    add(char(isc_dpb_user_name), name);
+    add(char(isc_dpb_password), secret);
+    add(char(isc_dpb_force_write), QByteArray(1, on ? 1 : 0));
+
+    const QByteArray path = target.toUtf8();
+    ISC_STATUS_ARRAY status = {};
+    isc_db_handle db = 0;
+    if (isc_attach_database(status, 0, path.constData(), &db, static_cast<short>(dpb.size()),
+                            dpb.constData())) {
+        throw DbError(QStringLiteral("Nie można zmienić trybu zapisu bazy danych %1: %2")
+                          .arg(target, statusText(status)));
+    }
+    isc_detach_database(status, &db);
+}

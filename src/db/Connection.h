@@ -34,6 +34,14 @@ public:
                                const QString &user = QStringLiteral("SYSDBA"),
                                const QString &password = QStringLiteral("masterkey"));
 
+    // Whether the engine writes each commit through to the disk before it
+    // returns (on for every database people work in). Switched off only
+    // while a new database is being built, and for throw-away copies in
+    // tests. Needs a moment when no one else is attached; throws DbError.
+    static void setForcedWrites(const QString &target, bool on,
+                                const QString &user = QStringLiteral("SYSDBA"),
+                                const QString &password = QStringLiteral("masterkey"));
+
 private:
     QString m_name;
     QString m_target;

@@ -12,6 +12,7 @@
 #include "TDaneFirmy.h"
 #include "TDateEdit.h"
 #include "TKierowcyObj.h"
+#include "TLimitedSpinEdit.h"
 #include "TNumberEdit.h"
 #include "TTaryfyprzewoznikaObj.h"
 
@@ -23,7 +24,6 @@
 #include <QPlainTextEdit>
 #include <QPushButton>
 #include <QRadioButton>
-#include <QSpinBox>
 
 #include <optional>
 
@@ -99,10 +99,9 @@ TfrmAddEditZlecenia_Przych::TfrmAddEditZlecenia_Przych(QWidget *owner, int order
 
 void TfrmAddEditZlecenia_Przych::connectControls()
 {
-    for (QSpinBox *spin : {seKMLadownych, seIloscPalet})
-        connect(spin, &QSpinBox::valueChanged, this, &TfrmAddEditZlecenia_Przych::recomputeTotal);
-    for (TNumberEdit *number : {seKMPustych, seIloscGodzin, edStawkaKMLadowny, edStawkaKMPusty,
-                                edStawkaIloscGodzin, edStawkaIloscPalet, seKwota})
+    for (TNumberEdit *number : std::initializer_list<TNumberEdit *>{
+             seKMLadownych, seKMPustych, seIloscGodzin, seIloscPalet, edStawkaKMLadowny,
+             edStawkaKMPusty, edStawkaIloscGodzin, edStawkaIloscPalet, seKwota})
         connect(number, &TNumberEdit::valueChanged, this,
                 &TfrmAddEditZlecenia_Przych::recomputeTotal);
     connect(rbStawkaUmowna, &QRadioButton::clicked, this,

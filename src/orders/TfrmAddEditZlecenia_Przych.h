@@ -14,8 +14,8 @@ class QMenu;
 class QPlainTextEdit;
 class QPushButton;
 class QRadioButton;
-class QSpinBox;
 class TDateEdit;
+class TLimitedSpinEdit;
 class TNumberEdit;
 class TTaryfyprzewoznikaObj;
 
@@ -63,7 +63,7 @@ public:
     void priceListChosen(int group);
 
     QLabel *lblNumerKolejny;
-    QSpinBox *seNumerKolejny;
+    TLimitedSpinEdit *seNumerKolejny;
     QLabel *lblPrzeladunek;
     QLineEdit *edPrzeladunek;
     QLabel *lblKlient;
@@ -91,9 +91,9 @@ public:
     QLineEdit *meRozladunek;
 
     QLabel *lblOdleglosc;
-    QSpinBox *seOdleglosc;
+    TLimitedSpinEdit *seOdleglosc;
     QLabel *lblKMLadownych;
-    QSpinBox *seKMLadownych;
+    TLimitedSpinEdit *seKMLadownych;
     TNumberEdit *edStawkaKMLadowny;
     QLabel *lblKMPustych;
     TNumberEdit *seKMPustych;
@@ -102,7 +102,7 @@ public:
     TNumberEdit *seIloscGodzin;
     TNumberEdit *edStawkaIloscGodzin;
     QLabel *lblIloscPalet;
-    QSpinBox *seIloscPalet;
+    TLimitedSpinEdit *seIloscPalet;
     TNumberEdit *edStawkaIloscPalet;
 
     QGroupBox *gbStawka;
@@ -138,11 +138,11 @@ public:
     QAction *acKierowca;             // the driver field's button
 
     QLabel *lblDokWZ;
-    QSpinBox *seDokWZ;
+    TLimitedSpinEdit *seDokWZ;
     QLabel *lblNrKarty;
-    QSpinBox *edNrKarty;
+    TLimitedSpinEdit *edNrKarty;
     QLabel *lblNrListu;
-    QSpinBox *edNrListu;
+    TLimitedSpinEdit *edNrListu;
     QLabel *lblOpisDod;
     QPlainTextEdit *memOpisDod;
     QLabel *lblTekstStaly;

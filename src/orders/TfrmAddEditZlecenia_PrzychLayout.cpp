@@ -1,6 +1,7 @@
 // The controls of the order editor and where they stand.
-#include "TNumberEdit.h"
 #include "TDateEdit.h"
+#include "TLimitedSpinEdit.h"
+#include "TNumberEdit.h"
 #include "PickerButton.h"
 #include "TfrmAddEditZlecenia_Przych.h"
 
@@ -15,7 +16,6 @@
 #include <QPlainTextEdit>
 #include <QPushButton>
 #include <QRadioButton>
-#include <QSpinBox>
 
 namespace {
 
@@ -27,11 +27,10 @@ Widget *named(const char *name, Args &&...args)
     return widget;
 }
 
-QSpinBox *wholeNumber(const char *name, int maximum, QWidget *parent)
+TLimitedSpinEdit *wholeNumber(const char *name, int maximum, QWidget *parent)
 {
-    auto *spin = named<QSpinBox>(name, parent);
+    auto *spin = named<TLimitedSpinEdit>(name, parent);
     spin->setRange(0, maximum);
-    spin->setAlignment(Qt::AlignRight | Qt::AlignVCenter);
     return spin;
 }
 

@@ -7,6 +7,7 @@
 #include "PriceGroups.h"
 #include "PriceLookup.h"
 #include "ReportFailures.h"
+#include "TLimitedSpinEdit.h"
 #include "TNumberEdit.h"
 #include "TfrmMiasta.h"
 #include "TfrmStawkiTaryfowe.h"
@@ -19,7 +20,6 @@
 #include <QMenu>
 #include <QPushButton>
 #include <QRadioButton>
-#include <QSpinBox>
 
 namespace {
 

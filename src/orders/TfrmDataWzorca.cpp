@@ -1,6 +1,7 @@
 #include "TfrmDataWzorca.h"
 
-#include <QDateEdit>
+#include "TDateEdit.h"
+
 #include <QGridLayout>
 #include <QLabel>
 
@@ -12,10 +13,10 @@ TfrmDataWzorca::TfrmDataWzorca(QWidget *owner) : TfrmRODefault(owner)
 
     lblData = new QLabel(QStringLiteral("Data"), pnlClient);
     lblData->setObjectName(QStringLiteral("lblData"));
-    deData = new QDateEdit(QDate::currentDate(), pnlClient);
+    deData = new TDateEdit(pnlClient);
     deData->setObjectName(QStringLiteral("deData"));
-    deData->setDisplayFormat(QStringLiteral("yyyy-MM-dd"));
-    deData->setCalendarPopup(true);
+    deData->setEmptyAllowed(false);
+    deData->setDate(QDate::currentDate());
     lblData->setBuddy(deData);
 
     auto *layout = new QGridLayout(pnlClient);

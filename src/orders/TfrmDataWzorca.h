@@ -4,8 +4,8 @@
 
 #include <QDate>
 
-class QDateEdit;
 class QLabel;
+class TDateEdit;
 
 // Asks for the day onto which the templates of incoming orders are copied.
 // Shown modally; after OK (1) the chosen day is date(). Starts on today.
@@ -19,7 +19,7 @@ public:
     QDate date() const;
 
     QLabel *lblData;
-    QDateEdit *deData;
+    TDateEdit *deData;
 
 protected:
     void FormCreate() override;

@@ -13,7 +13,9 @@ TfrmAddEditGrupy::TfrmAddEditGrupy(QWidget *owner, const QString &name, bool blo
     setObjectName(QStringLiteral("frmAddEditGrupy"));
     setWindowTitle(QStringLiteral("Edycja grupy"));
     lblHeader->setText(QStringLiteral("Edycja grupy"));
-    btnCancel->setText(QStringLiteral("&Zamknij"));
+    // Alt+Z saves here as in every other editor, so closing without
+    // saving takes the next letter.
+    btnCancel->setText(QStringLiteral("Za&mknij"));
 
     lblNazwa = new QLabel(QStringLiteral("Nazwa:"), pnlClient);
     lblNazwa->setObjectName(QStringLiteral("lblNazwa"));

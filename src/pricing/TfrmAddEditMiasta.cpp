@@ -17,6 +17,7 @@ TfrmAddEditMiasta::TfrmAddEditMiasta(QWidget *owner, int routeKey)
     setWindowTitle(QStringLiteral("Podaj dane o odległości"));
     lblHeader->setText(QStringLiteral("Edycja danych"));
     lblHeaderDescription->setText(QStringLiteral("Edycja tabeli odległości"));
+    setROCloseOnESC(true);
     btnOk->setModalResult(0);
 
     const auto readOnly = [this](const QString &name) {

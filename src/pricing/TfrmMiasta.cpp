@@ -93,6 +93,7 @@ TfrmMiasta::TfrmMiasta(QWidget *owner) : TfrmRODefault(owner)
 
 void TfrmMiasta::FormCreate()
 {
+    setROCloseOnESC(true);
     TfrmRODefault::FormCreate();
     frameListView1->setROSetUserID(session().UserID);
     fillCities();

@@ -63,10 +63,15 @@ void Schema::apply(Connection &connection)
     }
 }
 
-void Schema::createDatabase(const QString &target)
+void Schema::createDatabase(const QString &target, ForcedWrites finished)
 {
     Connection::createDatabase(target);
-    Connection connection;
-    connection.open(target);
-    apply(connection);
+    Connection::setForcedWrites(target, false);
+    {
+        Connection connection;
+        connection.open(target);
+        apply(connection);
+    }
+    if (finished == ForcedWrites::On)
+        Connection::setForcedWrites(target, true);
 }

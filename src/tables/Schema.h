@@ -14,7 +14,10 @@ QStringList splitStatements(const QString &script);
 // Runs every statement of the schema on an empty database; throws DbError.
 void apply(Connection &connection);
 // Creates a new database file and applies the schema to it; never
-// overwrites an existing file.
-void createDatabase(const QString &target);
+// overwrites an existing file. The schema's hundreds of statements each
+// commit, so they run with the disk writes deferred; the finished database
+// writes through (ForcedWrites::On) unless it is a throw-away copy.
+enum class ForcedWrites { On, Off };
+void createDatabase(const QString &target, ForcedWrites finished = ForcedWrites::On);
 
 } // namespace Schema

@@ -1,4 +1,5 @@
 #include "DemoSeeder.h"
+#include "StoppedSeed.h"
 #include "TestDatabase.h"
 
 #include <QDir>
@@ -29,6 +30,15 @@ HostRun runHost(const QString &program, const QStringList &arguments)
 }
 
 const QString Host = QStringLiteral(HAULIX_HOST_PATH);
+const QString Admin = QStringLiteral(HAULIX_ADMIN_PATH);
+
+HostRun runAdmin(const QStringList &arguments)
+{
+    QProcess admin;
+    admin.start(Admin, arguments);
+    EXPECT_TRUE(admin.waitForFinished(60000)) << "haulix-admin did not end";
+    return {admin.exitCode(), QString::fromUtf8(admin.readAllStandardError())};
+}
 
 void seedSmallDemo(TestDatabase &db)
 {
@@ -97,6 +107,29 @@ TEST(Host, WithoutADisplayItSaysHowToRunHeadless)
     EXPECT_TRUE(errors.contains("xvfb-run haulix"));
 }
 
+TEST(Host, HelpIsPrintedOnTheConsoleWithOrWithoutADisplay)
+{
+    QProcessEnvironment headless = QProcessEnvironment::systemEnvironment();
+    for (const char *name : {"DISPLAY", "WAYLAND_DISPLAY", "QT_QPA_PLATFORM"})
+        headless.remove(QString::fromLatin1(name));
+    QProcessEnvironment offscreen = QProcessEnvironment::systemEnvironment();
+    offscreen.insert(QStringLiteral("QT_QPA_PLATFORM"), QStringLiteral("offscreen"));
+    for (const QProcessEnvironment &environment : {headless, offscreen}) {
+        for (const QString &asked : {QStringLiteral("--help"), QStringLiteral("-h")}) {
+            QProcess host;
+            host.setProcessEnvironment(environment);
+            host.start(Host, {QStringLiteral("--user"), QStringLiteral("2"), asked});
+            ASSERT_TRUE(host.waitForFinished(60000));
+            const QString usage = QString::fromUtf8(host.readAllStandardOutput());
+            EXPECT_EQ(host.exitCode(), 0) << asked.toStdString();
+            EXPECT_TRUE(usage.startsWith("Użycie: haulix [--db")) << usage.toStdString();
+            for (const char *option : {"--db", "--user", "--report", "--module", "RoadCards"})
+                EXPECT_TRUE(usage.contains(QLatin1String(option))) << option;
+            EXPECT_FALSE(host.readAllStandardError().contains("Nieznany"));
+        }
+    }
+}
+
 TEST(Host, AModuleItDoesNotKnowIsRefusedWithTheOnesItKnows)
 {
     const HostRun run = runHost(Host, {QStringLiteral("--module"), QStringLiteral("Kierowcy")});
@@ -137,4 +170,24 @@ TEST(Host, ASiblingModuleOpensItsRegisterUntilTheUserEndsIt)
     const QString errors = QString::fromUtf8(host.readAllStandardError());
     EXPECT_FALSE(errors.contains(QStringLiteral("moduł"), Qt::CaseInsensitive))
         << errors.toStdString();
+}
+
+TEST(Admin, SeedingOverAStoppedSeedSaysWhatIsLeftAndHowToStartAgain)
+{
+    TestDatabase db;
+    ASSERT_TRUE(stopSeedHalfWay(db));
+    db.connection().close();
+    const QString path = db.path();
+
+    const HostRun refused = runAdmin(
+        {QStringLiteral("seed"), path, QStringLiteral("--orders"), QStringLiteral("5")});
+    EXPECT_EQ(refused.exitCode, 1);
+    EXPECT_TRUE(refused.errors.contains(DemoSeeder::describe(DemoSeeder::Contents::SeedLeftovers)))
+        << refused.errors.toStdString();
+    EXPECT_FALSE(refused.errors.contains(QStringLiteral("nie jest pusta")));
+    EXPECT_TRUE(refused.errors.contains(QStringLiteral("usuń plik bazy")));
+    EXPECT_TRUE(refused.errors.contains(QStringLiteral("haulix-admin create ") + path));
+    EXPECT_TRUE(refused.errors.contains(QStringLiteral("haulix-admin seed ") + path
+                                        + QStringLiteral(" --orders 5")))
+        << refused.errors.toStdString();
 }

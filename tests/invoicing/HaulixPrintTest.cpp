@@ -168,3 +168,65 @@ TEST_F(HaulixPrintTest, AWrongCommandLineShowsTheUsage)
               QStringLiteral("Identyfikator musi być dodatnią liczbą całkowitą: pierwsza\n"));
     EXPECT_TRUE(QDir(dir.path()).isEmpty());
 }
+
+TEST_F(HaulixPrintTest, TheCarriersListsWithTheirPeriodAndCarrier)
+{
+    addOrder([](TZlecenia_przychObj &o) {
+        o.IDPRZEWOZNIK = CarrierKey;
+        o.NUMER_FAKT_PRZEW = QStringLiteral("ŻW-1");
+        o.KWOTA_FAKT_PRZEW = 500.0;
+        o.DATA_FAKT_WYSTAWIENIA = DateTime::fromDate(QDate(2026, 7, 1));
+        o.DNI_FAKT = 14;
+        o.DATA_FAKT_PLATNOSCI = DateTime::fromDate(QDate(2026, 7, 20));
+        o.NRRAMPY = 1;
+    });
+    addOrder([](TZlecenia_przychObj &o) {
+        o.IDPRZEWOZNIK = ClientKey;
+        o.NUMER_FAKT_PRZEW = QStringLiteral("GĘ-1");
+        o.KWOTA_FAKT_PRZEW = 300.0;
+        o.DATA_FAKT_WYSTAWIENIA = DateTime::fromDate(QDate(2026, 7, 2));
+    });
+    const auto print = [this](const QStringList &job) {
+        const QString file = target(job.first() + QStringLiteral(".pdf"));
+        const PrintRun run
+            = runPrint(QStringList{QStringLiteral("--db"), db.path()} + job + QStringList{file});
+        EXPECT_EQ(run.exitCode, 0) << run.errors.toStdString();
+        return run.exitCode == 0 ? Poppler::text(file) : QString();
+    };
+    const QString july1 = QStringLiteral("2026-07-01"), july31 = QStringLiteral("2026-07-31");
+
+    QString text = print({QStringLiteral("carriers-paid"), july1, july31,
+                          QStringLiteral("--carrier"), QString::number(CarrierKey)});
+    EXPECT_TRUE(text.contains(" Faktury przewoźników zapłacone od 2026-07-01 do dnia 2026-07-31"));
+    EXPECT_TRUE(text.contains("ŻW-1"));
+    EXPECT_TRUE(text.contains("ŻWIREK ; Łódź"));
+    text = print({QStringLiteral("carriers-issued"), QStringLiteral("--carrier"),
+                  QString::number(ClientKey), july1, july31});
+    EXPECT_TRUE(text.contains("GĘ-1"));
+    EXPECT_FALSE(text.contains("ŻW-1"));
+    text = print({QStringLiteral("carriers-unpaid")});
+    EXPECT_TRUE(text.contains("GĘ-1"));
+    EXPECT_FALSE(text.contains("ŻW-1"));
+    text = print({QStringLiteral("carriers-payment")});
+    EXPECT_TRUE(text.contains("GĘŚLA"));
+    EXPECT_FALSE(text.contains("ŻW-1"));
+
+    for (const auto &[arguments, error] :
+         {std::pair{
+              QStringList{QStringLiteral("carriers-paid"), july1},
+              QStringLiteral("Wydruk carriers-paid wymaga argumentów: OD DO [--carrier ID].")},
+          {QStringList{QStringLiteral("carriers-paid"), QStringLiteral("2026-13-01"), july31},
+           QStringLiteral("Data musi mieć postać rrrr-mm-dd: 2026-13-01")},
+          {QStringList{QStringLiteral("carriers-paid"), july31, july1},
+           QStringLiteral("Początek okresu jest późniejszy niż jego koniec.")},
+          {QStringList{QStringLiteral("carriers-unpaid"), QStringLiteral("--carrier"),
+                       QStringLiteral("ŻWIREK")},
+           QStringLiteral(
+               "Identyfikator przewoźnika musi być dodatnią liczbą całkowitą: ŻWIREK")}}) {
+        const PrintRun run = runPrint(QStringList{QStringLiteral("--db"), db.path()} + arguments
+                                      + QStringList{target(QStringLiteral("zle.pdf"))});
+        EXPECT_EQ(run.exitCode, 2) << arguments.join(u' ').toStdString();
+        EXPECT_TRUE(run.errors.startsWith(error)) << run.errors.toStdString();
+    }
+    EXPECT_FALSE(QFile::exists(target(QStringLiteral("zle.pdf"))));
+}

@@ -15,6 +15,13 @@
 // kind, a bank account, a user, a client, a carrier, cities and units.
 class InvoicingFixture : public testing::Test
 {
+public:
+    // The non-empty texts of the pages in the order they were placed, dotted
+    // signature lines left out.
+    static QStringList printed(const std::vector<ReportPage> &pages);
+    // Whether the texts hold these, in this order (others may stand between).
+    static bool inOrder(const QStringList &texts, const QStringList &expected);
+
 protected:
     static constexpr int ClientKey = 1;
     static constexpr int CarrierKey = 2;
@@ -32,12 +39,6 @@ protected:
     // An order of the client from Łódź to Warszawa; returns its key.
     int addOrder(const std::function<void(TZlecenia_przychObj &)> &change = {});
     void addGoods(int orderKey, const QString &name, double quantity, int unit = TonneUnit);
-
-    // The non-empty texts of the pages in the order they were placed, dotted
-    // signature lines left out.
-    static QStringList printed(const std::vector<ReportPage> &pages);
-    // Whether the texts hold these, in this order (others may stand between).
-    static bool inOrder(const QStringList &texts, const QStringList &expected);
 
     TestDatabase db;
 };

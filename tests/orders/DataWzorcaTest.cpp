@@ -1,8 +1,8 @@
 #include "ScriptedModalRunner.h"
 #include "TBitBtn.h"
+#include "TDateEdit.h"
 #include "TfrmDataWzorca.h"
 
-#include <QDateEdit>
 #include <QLabel>
 
 #include <gtest/gtest.h>

@@ -7,8 +7,10 @@
 #include "TframeListView.h"
 #include "TfrmAddEditTowaryNaZleceniu.h"
 #include "TfrmTowaryNaZleceniu.h"
+#include "Typing.h"
 
 #include <QAction>
+#include <QApplication>
 #include <QLabel>
 #include <QLineEdit>
 
@@ -187,4 +189,30 @@ TEST_F(Goods, AUnitThatIsGoneShowsTheFirstUnitAndCancelWritesNothing)
     });
     EXPECT_EQ(editor->showModal(), TfrmRODefault::mrCancel);
     EXPECT_EQ(goodsNamed(QStringLiteral("Cement")).NUMER1, "UN 1202");
+}
+
+TEST_F(Goods, AfterAddingTheDispatcherTypesIntoTheFirstFieldAndEnterSavesNoEmptyRow)
+{
+    auto form = TfrmRODefault::create<TfrmTowaryNaZleceniu>(nullptr, OrderKey);
+    Typing::activate(form.get());
+    scriptedModalRunner().expect<GoodsEditor>([&](GoodsEditor &e) {
+        Typing::activate(&e);
+        EXPECT_EQ(QApplication::focusWidget(), e.cbNazwa);
+        Typing::press(Qt::Key_Return);
+        EXPECT_TRUE(e.isVisible());
+        EXPECT_EQ(QApplication::focusWidget(), e.edADR);
+        Typing::press(Qt::Key_Backtab, Qt::ShiftModifier);
+        Typing::keys(QStringLiteral("Mąka\nUN 1830\nworki\n12,5\n3"));
+        EXPECT_EQ(QApplication::focusWidget(), e.edIloscRzecz);
+        Typing::accelerator(Qt::Key_Z);
+        return e.result();
+    });
+    Typing::click(form->frameListView1->BitBtn5);   // "Dodaj"
+    EXPECT_TRUE(scriptedModalRunner().allRun());
+    EXPECT_EQ(db.count(QStringLiteral("TOWARY")), 4);
+    const TTowaryObj added = goodsNamed(QStringLiteral("Mąka"));
+    EXPECT_EQ(added.NUMER1, "UN 1830");
+    EXPECT_EQ(added.NUMER2, "worki");
+    EXPECT_DOUBLE_EQ(added.ILOSC_DEKLAROWANA, 12.5);
+    EXPECT_DOUBLE_EQ(added.ILOSC, 3.0);
 }

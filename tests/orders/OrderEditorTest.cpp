@@ -8,6 +8,7 @@
 #include "Statement.h"
 #include "TBitBtn.h"
 #include "TDateEdit.h"
+#include "TLimitedSpinEdit.h"
 #include "TNumberEdit.h"
 #include "TZlecenia_przychObj.h"
 #include "TfrmAddEditZlecenia_Przych.h"
@@ -17,7 +18,6 @@
 #include <QLineEdit>
 #include <QPlainTextEdit>
 #include <QRadioButton>
-#include <QSpinBox>
 #include <QTest>
 
 namespace {

@@ -4,6 +4,7 @@
 #include "ScriptedMessages.h"
 #include "ScriptedModalRunner.h"
 #include "TBitBtn.h"
+#include "TLimitedSpinEdit.h"
 #include "TNumberEdit.h"
 #include "TframeListView.h"
 #include "TfrmAddEditZlecenia_Przych.h"
@@ -16,7 +17,6 @@
 #include <QMenu>
 #include <QPushButton>
 #include <QRadioButton>
-#include <QSpinBox>
 #include <QTest>
 
 namespace {

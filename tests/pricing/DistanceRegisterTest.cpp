@@ -8,7 +8,9 @@
 #include "TframeListView.h"
 #include "TfrmAddEditMiasta.h"
 #include "TfrmMiasta.h"
+#include "Typing.h"
 
+#include <QApplication>
 #include <QComboBox>
 #include <QLineEdit>
 
@@ -152,4 +154,54 @@ TEST_F(DistanceRegister, DeletingWithoutTheMonitorFlagWritesNoHistory)
     form->frameListView1->BitBtn6->click();
     EXPECT_EQ(db.count(QStringLiteral("ODLEGLOSCI")), 2);
     EXPECT_EQ(db.count(QStringLiteral("HISTORY")), 0);
+}
+
+TEST_F(DistanceRegister, EscClosesTheRegisterAndTheDistanceEditorWithoutSaving)
+{
+    auto form = open();
+    Typing::activate(form.get());
+    list(*form).setFocus();
+    scriptedModalRunner().expect<TfrmAddEditMiasta>([](TfrmAddEditMiasta &d) {
+        Typing::activate(&d);
+        Typing::keys(QStringLiteral("999"));
+        Typing::press(Qt::Key_Escape);
+        EXPECT_FALSE(d.isVisible());
+        return d.result();
+    });
+    list(*form).setSelectedIndex(list(*form).findByKey(toKrakow));
+    Typing::press(Qt::Key_Return);   // the list's Enter edits the selected route
+    EXPECT_TRUE(scriptedModalRunner().allRun());
+    EXPECT_EQ(db.scalar(QStringLiteral("SELECT ODLEGLOSC FROM ODLEGLOSCI WHERE ID_ODLEGLOSCI = %1")
+                            .arg(toKrakow)),
+              "270");
+    Typing::activate(form.get());
+    EXPECT_EQ(QApplication::focusWidget(), &list(*form));
+    Typing::press(Qt::Key_Escape);
+    EXPECT_FALSE(form->isVisible());
+    EXPECT_EQ(form->result(), TfrmRODefault::mrCancel);
+}
+
+TEST_F(DistanceRegister, TheDistanceEditorStartsInTheDistanceAndSavesWhatIsTyped)
+{
+    auto form = open();
+    Typing::activate(form.get());
+    scriptedModalRunner().expect<TfrmAddEditMiasta>([](TfrmAddEditMiasta &d) {
+        Typing::activate(&d);
+        // The cities only show the route; the distance is what is typed.
+        EXPECT_EQ(QApplication::focusWidget(), d.edOdleglosc);
+        Typing::keys(QStringLiteral("-3abc15"));
+        EXPECT_EQ(d.edOdleglosc->text(), "315");
+        Typing::press(Qt::Key_Return);
+        EXPECT_TRUE(d.isVisible());
+        Typing::accelerator(Qt::Key_Z);
+        EXPECT_TRUE(Typing::closes(&d));
+        return d.result();
+    });
+    list(*form).setFocus();
+    list(*form).setSelectedIndex(list(*form).findByKey(toGdansk));
+    Typing::press(Qt::Key_Return);
+    EXPECT_TRUE(scriptedModalRunner().allRun());
+    EXPECT_EQ(db.scalar(QStringLiteral("SELECT ODLEGLOSC FROM ODLEGLOSCI WHERE ID_ODLEGLOSCI = %1")
+                            .arg(toGdansk)),
+              "315");
 }

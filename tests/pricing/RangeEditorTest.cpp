@@ -8,11 +8,14 @@
 #include "TfrmAddEditCennikWierszeKolumny.h"
 #include "TfrmAddEditGrupy.h"
 #include "TfrmCennikWierszeKolumny.h"
+#include "Typing.h"
 
+#include <QApplication>
 #include <QCheckBox>
 #include <QLabel>
 #include <QLineEdit>
 #include <QPushButton>
+#include <QSet>
 #include <QTabWidget>
 #include <QTest>
 
@@ -281,4 +284,55 @@ TEST_F(RangeEditor, DoubleClickingARangeCorrectsIt)
     const QRect row = list.visualRect(list.model()->index(0, 0));
     QTest::mouseDClick(list.viewport(), Qt::LeftButton, {}, row.center());
     EXPECT_TRUE(scriptedModalRunner().allRun());
+}
+
+TEST_F(RangeEditor, AfterAddingTheBoundIsTypedAndEnterSavesNothingByItself)
+{
+    auto form = open();
+    Typing::activate(form.get());
+    scriptedModalRunner().expect<TfrmAddEditCennikWierszeKolumny>(
+        [](TfrmAddEditCennikWierszeKolumny &d) {
+            Typing::activate(&d);
+            EXPECT_EQ(QApplication::focusWidget(), d.edWartosc);
+            Typing::press(Qt::Key_Return);
+            EXPECT_TRUE(d.isVisible());
+            Typing::keys(QStringLiteral("150"));
+            Typing::accelerator(Qt::Key_Z);
+            return d.result();
+        });
+    Typing::click(form->btnDodajWiersz);
+    EXPECT_EQ(kilometres(), (QStringList{"0-150"}));
+}
+
+TEST_F(RangeEditor, TheGroupEditorSavesWithAltZAndClosesWithAltM)
+{
+    auto form = open();
+    Typing::activate(form.get());
+    const auto typeName = [](const QString &name, Qt::Key accelerator) {
+        scriptedModalRunner().expect<TfrmAddEditGrupy>([=](TfrmAddEditGrupy &d) {
+            Typing::activate(&d);
+            // One button per accelerator letter, or Alt+Z would only move
+            // the focus between the two.
+            QSet<QChar> letters;
+            for (const QAbstractButton *button : d.findChildren<QAbstractButton *>()) {
+                const qsizetype ampersand = button->text().indexOf(u'&');
+                if (!button->isVisible() || ampersand < 0)
+                    continue;
+                const QChar letter = button->text().at(ampersand + 1).toUpper();
+                EXPECT_FALSE(letters.contains(letter)) << button->text().toStdString();
+                letters.insert(letter);
+            }
+            Typing::keys(name);
+            Typing::accelerator(accelerator);
+            EXPECT_TRUE(Typing::closes(&d));
+            return d.result();
+        });
+    };
+    typeName(QStringLiteral("Chłodnie"), Qt::Key_Z);
+    Typing::click(form->btnDodajGrupe);
+    typeName(QStringLiteral("Plandeki"), Qt::Key_M);
+    Typing::click(form->btnDodajGrupe);
+    EXPECT_EQ(db.count(QStringLiteral("CENNIKI_KRAJ_GRUPY")), 1);
+    EXPECT_EQ(db.count(QStringLiteral("CENNIKI_KRAJ_GRUPY"), QStringLiteral("NAZWA = 'Chłodnie'")),
+              1);
 }

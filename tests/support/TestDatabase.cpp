@@ -6,7 +6,6 @@
 #include <QCoreApplication>
 #include <QDir>
 #include <QFile>
-#include <QProcess>
 #include <QSqlError>
 #include <QSqlQuery>
 
@@ -14,32 +13,12 @@
 
 namespace {
 
-// A test's database need not survive a crash of the machine: without
-// forced writes a commit costs no synchronous page writes, which makes the
-// tests that commit statement by statement (as workstations do) several
-// times faster.
-void writeAsynchronously(const QString &file)
-{
-    QProcess gfix;
-    gfix.start(QStringLiteral("gfix"), {QStringLiteral("-write"), QStringLiteral("async"), file});
-    if (!gfix.waitForFinished(60000) || gfix.exitStatus() != QProcess::NormalExit
-        || gfix.exitCode() != 0) {
-        throw DbError(QStringLiteral("gfix -write async %1 (pakiet firebird3.0-utils): %2 %3")
-                          .arg(file, gfix.errorString(),
-                               QString::fromLocal8Bit(gfix.readAllStandardError())));
-    }
-}
-
 QString templatePath()
 {
     static QTemporaryDir dir;
     static const QString path = [] {
         const QString file = dir.filePath(QStringLiteral("template.fdb"));
-        Connection::createDatabase(file);
-        writeAsynchronously(file);
-        Connection connection;
-        connection.open(file);
-        Schema::apply(connection);
+        Schema::createDatabase(file, Schema::ForcedWrites::Off);
         return file;
     }();
     return path;

@@ -1,6 +1,7 @@
 #include "DbError.h"
 #include "DemoSeeder.h"
 #include "Schema.h"
+#include "StoppedSeed.h"
 #include "TestDatabase.h"
 
 #include <QFile>
@@ -105,9 +106,35 @@ TEST(DemoData, SeedingANonEmptyDatabaseFailsAndAddsNothing)
     DemoSeeder(db.connection(), smallDemo()).seed();
     const int orders = db.count(QStringLiteral("ZLECENIA_PRZYCH"));
     const int cities = db.count(QStringLiteral("MIASTA"));
+    EXPECT_EQ(DemoSeeder::contents(db.connection()), DemoSeeder::Contents::Data);
     EXPECT_THROW(DemoSeeder(db.connection(), smallDemo()).seed(), DbError);
     EXPECT_EQ(db.count(QStringLiteral("ZLECENIA_PRZYCH")), orders);
     EXPECT_EQ(db.count(QStringLiteral("MIASTA")), cities);
+}
+
+TEST(DemoData, ASeedStoppedHalfWayLeavesUsedKeysOnlyAndSeedingAgainSaysSo)
+{
+    TestDatabase db;
+    EXPECT_EQ(DemoSeeder::contents(db.connection()), DemoSeeder::Contents::Empty);
+    ASSERT_TRUE(stopSeedHalfWay(db));
+
+    // The transaction took every row back; the generators stay where the
+    // seed left them.
+    for (const char *table : {"KRAJE", "MIASTA", "KONTRAHENCI", "USERS", "FORMS"})
+        EXPECT_EQ(db.count(QString::fromLatin1(table)), 0) << table;
+    EXPECT_NE(db.scalar(QStringLiteral("SELECT GEN_ID(GEN_KONTRAHENCI, 0) FROM RDB$DATABASE")),
+              QStringLiteral("0"));
+    EXPECT_EQ(DemoSeeder::contents(db.connection()), DemoSeeder::Contents::SeedLeftovers);
+
+    try {
+        DemoSeeder(db.connection(), smallDemo()).seed();
+        ADD_FAILURE() << "seeded over the leftovers";
+    } catch (const DbError &error) {
+        EXPECT_EQ(error.message(), DemoSeeder::describe(DemoSeeder::Contents::SeedLeftovers));
+        EXPECT_TRUE(error.message().startsWith(
+            QStringLiteral("Baza zawiera pozostałości przerwanego wypełniania")));
+    }
+    EXPECT_EQ(db.count(QStringLiteral("KONTRAHENCI")), 0);
 }
 
 TEST(DemoData, CreatingADatabaseNeverOverwrites)

@@ -1,7 +1,10 @@
+#include "Connection.h"
 #include "Schema.h"
 #include "Statement.h"
 #include "TableObjects.h"
 #include "TestDatabase.h"
+
+#include <QTemporaryDir>
 
 #include <gtest/gtest.h>
 
@@ -129,4 +132,23 @@ TEST(Schema, ScriptSplitsIntoWholeStatements)
     EXPECT_EQ(statements[0], QStringLiteral("CREATE TABLE A (ID INTEGER)"));
     EXPECT_TRUE(statements[1].endsWith(QStringLiteral("NEW.ID = 1;\nEND")));
     EXPECT_EQ(statements[2], QStringLiteral("CREATE INDEX I ON A (ID)"));
+}
+
+TEST(Schema, ANewDatabaseWritesThroughToTheDisk)
+{
+    QTemporaryDir dir;
+    const auto forcedWrites = [](const QString &path) {
+        Connection connection;
+        connection.open(path);
+        Statement st(connection);
+        st.add(QStringLiteral("SELECT MON$FORCED_WRITES AS FW FROM MON$DATABASE"));
+        st.exec();
+        return st.integer(0);
+    };
+    const QString kept = dir.filePath(QStringLiteral("kept.fdb"));
+    Schema::createDatabase(kept);
+    EXPECT_EQ(forcedWrites(kept), 1);
+    const QString scratch = dir.filePath(QStringLiteral("scratch.fdb"));
+    Schema::createDatabase(scratch, Schema::ForcedWrites::Off);
+    EXPECT_EQ(forcedWrites(scratch), 0);
 }

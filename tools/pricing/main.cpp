@@ -6,6 +6,7 @@
 #include "Connection.h"
 #include "DbError.h"
 #include "DemoDatabase.h"
+#include "PolishLanguage.h"
 #include "QtMessageService.h"
 #include "SessionContext.h"
 #include "TfrmCennikMenu.h"
@@ -56,7 +57,7 @@ int main(int argc, char **argv)
     QApplication app(argc, argv);
     QApplication::setOrganizationName(QStringLiteral("Kelvaro"));
     QApplication::setApplicationName(QStringLiteral("Haulix"));
-    QLocale::setDefault(QLocale(QLocale::Polish, QLocale::Poland));
+    usePolishLanguage();
 
     QString database;
     int userId = 1;

@@ -37,7 +37,7 @@ public:
     {
         if (!m_connection) {
             const QString path = m_dir.filePath(QStringLiteral("orders-shots.fdb"));
-            Schema::createDatabase(path);
+            Schema::createDatabase(path, Schema::ForcedWrites::Off);
             m_connection = std::make_unique<Connection>();
             m_connection->open(path);
             m_transaction = std::make_unique<Transaction>(*m_connection);

@@ -26,7 +26,7 @@ public:
     PrintoutCompany() : QObject(QCoreApplication::instance())
     {
         const QString path = m_dir.filePath(QStringLiteral("printouts.fdb"));
-        Schema::createDatabase(path);
+        Schema::createDatabase(path, Schema::ForcedWrites::Off);
         m_connection.open(path);
         DemoSeeder::Options options;
         options.orders = 120;
@@ -40,13 +40,15 @@ private:
     Connection m_connection;
 };
 
+} // namespace
+
 Connection &demoCompany()
 {
     static PrintoutCompany *company = new PrintoutCompany;
     return company->connection();
 }
 
-int firstKey(const QString &sql)
+int demoKey(const QString &sql)
 {
     Statement st(demoCompany());
     st.add(sql);
@@ -56,7 +58,6 @@ int firstKey(const QString &sql)
     return st.integer(0);
 }
 
-// The first page as the preview paints it.
 std::unique_ptr<QWidget> firstPage(Report &report)
 {
     const std::vector<ReportPage> &pages = report.prepare();
@@ -81,10 +82,12 @@ std::unique_ptr<QWidget> firstPage(Report &report)
     return label;
 }
 
+namespace {
+
 // An invoice for one order priced from a tariff, so that its rates show.
 std::unique_ptr<QWidget> invoice()
 {
-    const int key = firstKey(QStringLiteral(
+    const int key = demoKey(QStringLiteral(
         "SELECT FIRST 1 z.IDFAKTURY FROM ZLECENIA_PRZYCH z WHERE z.IDFAKTURY > 0 AND z.IDTARYFY > 0"
         " AND (SELECT COUNT(*) FROM ZLECENIA_PRZYCH o WHERE o.IDFAKTURY = z.IDFAKTURY) = 1"
         " ORDER BY z.IDFAKTURY"));
@@ -95,7 +98,7 @@ std::unique_ptr<QWidget> invoice()
 // The attachment of the invoice that covers the most orders.
 std::unique_ptr<QWidget> attachment()
 {
-    const int key = firstKey(QStringLiteral(
+    const int key = demoKey(QStringLiteral(
         "SELECT FIRST 1 IDFAKTURY FROM ZLECENIA_PRZYCH WHERE IDFAKTURY > 0"
         " GROUP BY IDFAKTURY ORDER BY COUNT(*) DESC, IDFAKTURY"));
     TfrmZalacznik printout(demoCompany(), key);
@@ -105,7 +108,7 @@ std::unique_ptr<QWidget> attachment()
 // A transport order to an outside carrier.
 std::unique_ptr<QWidget> transportOrder()
 {
-    const int key = firstKey(QStringLiteral(
+    const int key = demoKey(QStringLiteral(
         "SELECT FIRST 1 ID_ZLECENIA_PRZYCH FROM ZLECENIA_PRZYCH WHERE PRZEWOZNIKWLASNY = 0"
         " AND NUMER_OBCY <> '' AND DATA IS NOT NULL ORDER BY ID_ZLECENIA_PRZYCH"));
     TfrmPrintReport printout(demoCompany(), key);

@@ -23,7 +23,7 @@ public:
     DemoCompany() : m_previous(session())
     {
         const QString path = m_dir.filePath(QStringLiteral("register.fdb"));
-        Schema::createDatabase(path);
+        Schema::createDatabase(path, Schema::ForcedWrites::Off);
         m_connection.open(path);
         DemoSeeder::Options options;
         options.orders = 120;
@@ -58,6 +58,12 @@ void addRegisterShots(ShotBook &book)
 {
     book.add(QStringLiteral("frmZlecPrzychodzace"),
              [](ShotContext &) { return incomingOrders(); });
+    // The narrowest the window goes: the search box must stay usable.
+    book.add(QStringLiteral("frmZlecPrzychodzace-minimum"), [](ShotContext &) {
+        std::unique_ptr<QWidget> form = incomingOrders();
+        form->resize(form->minimumWidth(), form->height());
+        return form;
+    });
     book.add(
         QStringLiteral("frmAdvancedEdit"), [](ShotContext &context) -> std::unique_ptr<QWidget> {
             return TfrmRODefault::create<TfrmAdvancedEdit>(nullptr, context.database().orderKey());

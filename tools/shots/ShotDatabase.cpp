@@ -26,7 +26,7 @@ constexpr DemoUser DemoUsers[] = {
 ShotDatabase::ShotDatabase()
 {
     const QString path = m_dir.filePath(QStringLiteral("shots.fdb"));
-    Schema::createDatabase(path);
+    Schema::createDatabase(path, Schema::ForcedWrites::Off);
     m_connection.open(path);
     setSession(1, &m_connection, &m_transaction);
 

@@ -11,4 +11,5 @@ void registerShots(ShotBook &book)
     addOrdersShots(book);
     addPrintoutShots(book);
     addSiblingShots(book);
+    addCarrierShots(book);
 }

@@ -1,6 +1,20 @@
 #pragma once
 
+#include <memory>
+
+class Connection;
+class QString;
+class QWidget;
+class Report;
 class ShotBook;
+
+// A demo company of 120 orders, seeded on first use, for the printouts.
+Connection &demoCompany();
+// The first column of the first row a query gives on the demo company;
+// throws std::runtime_error when there is no row.
+int demoKey(const QString &sql);
+// The report's first page as the preview paints it.
+std::unique_ptr<QWidget> firstPage(Report &report);
 
 // Every group of shots adds itself to the book here; one line per group.
 void registerShots(ShotBook &book);
@@ -24,3 +38,6 @@ void addOrdersShots(ShotBook &book);
 void addPrintoutShots(ShotBook &book);
 // The registers and editors of the suite's sibling modules.
 void addSiblingShots(ShotBook &book);
+
+// Road cards, the carrier's invoice and the carriers' invoice lists.
+void addCarrierShots(ShotBook &book);

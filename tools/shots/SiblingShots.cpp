@@ -38,7 +38,7 @@ public:
     explicit SiblingsDemo(QObject *parent) : QObject(parent)
     {
         const QString path = m_dir.filePath(QStringLiteral("siblings.fdb"));
-        Schema::createDatabase(path);
+        Schema::createDatabase(path, Schema::ForcedWrites::Off);
         m_connection.open(path);
         DemoSeeder::Options options;
         options.orders = 30;

@@ -133,6 +133,7 @@ void TfrmRODefault::ensureCreated()
     FormCreate();
     connectModalResults();
     InitializeForm();
+    putFooterLast();
     sendToFrames(FrameEvents::BuildMenus);
 }
 
@@ -182,6 +183,7 @@ void TfrmRODefault::showEvent(QShowEvent *event)
     ensureCreated();
     QDialog::showEvent(event);
     FormShow();
+    skipReadOnlyStart();
 }
 
 void TfrmRODefault::FormShow()

@@ -6,6 +6,7 @@
 #include <memory>
 #include <utility>
 
+class QAbstractButton;
 class QComboBox;
 class QFrame;
 class QLabel;
@@ -47,6 +48,12 @@ public:
 
     // Runs the form modally through the modal runner; returns the result.
     int showModal();
+
+    // Takes what is typed in every field of the form, as before any of
+    // its buttons acts (cancelling ones aside). A field whose text cannot
+    // be taken stops it: its message is shown, the field gets the focus
+    // with the text as typed, and the result is false.
+    bool commitFields();
 
     // Layout flags, set by a descendant before it is finished.
     bool ROFlatControls() const { return m_flatControls; }
@@ -108,6 +115,21 @@ private:
     void setUpTypeAhead(QComboBox *combo);
     void typeAhead(QComboBox *combo, const QString &typed);
     void attachEnterHandler(QWidget *control);
+    // The next field in tab order that Enter moves to: an edit, list, date
+    // or number field of the form itself that can be typed into, never a
+    // button.
+    QWidget *nextInputField(QWidget *from) const;
+    bool isInputField(QWidget *widget) const;
+    // The footer's buttons come after every field in tab order, so that
+    // a form starts in its first field and Tab ends on its buttons.
+    void putFooterLast();
+    // A form whose first field only shows a value (a read-only edit) starts
+    // in the first field that can be typed into.
+    void skipReadOnlyStart();
+    // Before a button of the form acts (click, Space, Enter, accelerator),
+    // what is typed is taken; true when the button must not act.
+    bool stopsButton(QObject *watched, QEvent *event);
+    bool cancels(const QAbstractButton *button) const;
     void applyFlatLook(QWidget *control, bool comboFrame = false);
     void warnAuthor(const QString &text);
     void connectModalResults();

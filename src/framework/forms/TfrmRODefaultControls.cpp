@@ -6,6 +6,7 @@
 #include "MessageService.h"
 #include "TBitBtn.h"
 #include "TListView.h"
+#include "TNumberEdit.h"
 #include "TframeListView.h"
 
 #include <QAbstractSpinBox>
@@ -29,6 +30,11 @@ constexpr int UnlimitedLength = 32767;
 const QString FlatFrame = QStringLiteral("border: 1px solid palette(dark);");
 const QString FlatComboFrame =
     QStringLiteral("QComboBox { border: 1px solid palette(button-text); padding: 1px; }");
+
+bool isPushOrSpeedButton(const QWidget *widget)
+{
+    return qobject_cast<const QPushButton *>(widget) || qobject_cast<const QToolButton *>(widget);
+}
 
 bool isPartOfCompoundControl(const QWidget *widget)
 {
@@ -81,9 +87,8 @@ void TfrmRODefault::checkAccelerators()
     QSet<QChar> used;
     for (QWidget *widget : ownWidgets()) {
         auto *button = qobject_cast<QAbstractButton *>(widget);
-        const bool pushOrSpeed
-            = qobject_cast<QPushButton *>(widget) || qobject_cast<QToolButton *>(widget);
-        if (!button || !pushOrSpeed || qobject_cast<TBitBtn *>(widget) || button->isHidden())
+        if (!button || !isPushOrSpeedButton(widget) || qobject_cast<TBitBtn *>(widget)
+            || button->isHidden())
             continue;
         const QChar letter = acceleratorLetter(button->text());
         if (letter.isNull())
@@ -121,10 +126,15 @@ void TfrmRODefault::setUpControls()
                     warnAuthor(QStringLiteral("Ustal długość ComboBoxa : ") + combo->objectName());
                 setUpTypeAhead(combo);
             }
-        } else if (qobject_cast<QSpinBox *>(widget) || qobject_cast<QDoubleSpinBox *>(widget)) {
-            const bool noMaximum = qobject_cast<QSpinBox *>(widget)
-                ? static_cast<QSpinBox *>(widget)->maximum() == 0
-                : static_cast<QDoubleSpinBox *>(widget)->maximum() == 0.0;
+        } else if (qobject_cast<QSpinBox *>(widget) || qobject_cast<QDoubleSpinBox *>(widget)
+                   || qobject_cast<TNumberEdit *>(widget)) {
+            bool noMaximum = false;
+            if (auto *number = qobject_cast<TNumberEdit *>(widget))
+                noMaximum = number->maximum() == 0.0;
+            else if (auto *spin = qobject_cast<QSpinBox *>(widget))
+                noMaximum = spin->maximum() == 0;
+            else
+                noMaximum = static_cast<QDoubleSpinBox *>(widget)->maximum() == 0.0;
             if (noMaximum)
                 warnAuthor(QStringLiteral("Ustal max RxSpinEdita : ") + widget->objectName());
             attachEnterHandler(widget);
@@ -137,6 +147,8 @@ void TfrmRODefault::setUpControls()
             setUpListView(list, firstList);
         } else if (auto *group = qobject_cast<QGroupBox *>(widget)) {
             group->setFlat(m_flatControls);
+        } else if (isPushOrSpeedButton(widget)) {
+            widget->installEventFilter(this);
         }
     }
 }
@@ -194,18 +206,4 @@ void TfrmRODefault::typeAhead(QComboBox *combo, const QString &typed)
     // Further typing replaces the completed part.
     edit->setSelection(static_cast<int>(typed.size()),
                        static_cast<int>(entry.size() - typed.size()));
-}
-
-bool TfrmRODefault::eventFilter(QObject *watched, QEvent *event)
-{
-    if (event->type() != QEvent::KeyPress)
-        return QDialog::eventFilter(watched, event);
-    const auto *key = static_cast<QKeyEvent *>(event);
-    if (key->key() == Qt::Key_Return || key->key() == Qt::Key_Enter) {
-        focusNextChild();
-        return true;
-    }
-    if (qobject_cast<QComboBox *>(watched))
-        m_lastComboKey = key->key();
-    return false;
 }

@@ -1,17 +1,41 @@
 #include "TListView.h"
 
 #include "TImageList.h"
+#include "TListItemDelegate.h"
 
 #include <QHeaderView>
 #include <QMouseEvent>
 #include <QPainter>
+
+#include <algorithm>
+
+namespace {
+
+// The letters that reach highest above and lowest below the line: some
+// fonts draw the accents of capitals above their ascent.
+const QString TallLetters = QStringLiteral("ĄĆĘŁŃÓŚŹŻąęgjpy");
+
+// The height a line of text needs when it is centred in its row.
+int textHeight(const QFont &font, const QPaintDevice *device)
+{
+    const QFontMetrics metrics(font, device);
+    const QRect ink = metrics.tightBoundingRect(TallLetters);
+    const int above = std::max(0, -ink.top() - metrics.ascent());
+    const int below = std::max(0, ink.bottom() + 1 - metrics.descent());
+    return metrics.height() + 2 * std::max(above, below);
+}
+
+} // namespace
 
 TListView::TListView(QWidget *parent) : QTreeView(parent), m_model(new TListViewModel(this))
 {
     setModel(m_model);
     setRootIsDecorated(false);
     setItemsExpandable(false);
+    // Uniform heights keep long lists fast; the delegate makes the height
+    // the same whatever the first row holds.
     setUniformRowHeights(true);
+    setItemDelegate(new TListItemDelegate(*this));
     setAllColumnsShowFocus(true);
     setSelectionBehavior(QAbstractItemView::SelectRows);
     setSelectionMode(QAbstractItemView::SingleSelection);
@@ -37,7 +61,10 @@ int TListView::addColumn(const QString &caption, int width)
 
 int TListView::columnWidth(int column) const
 {
-    return header()->isSectionHidden(column) ? 0 : header()->sectionSize(column);
+    if (header()->isSectionHidden(column))
+        return 0;
+    const int room = column == 0 ? m_imageRoom : 0;
+    return std::max(1, header()->sectionSize(column) - room);
 }
 
 void TListView::setColumnWidth(int column, int width)
@@ -49,7 +76,7 @@ void TListView::setColumnWidth(int column, int width)
         return;
     }
     header()->showSection(column);
-    header()->resizeSection(column, width);
+    header()->resizeSection(column, column == 0 ? width + m_imageRoom : width);
 }
 
 void TListView::clearColumnImages()
@@ -140,6 +167,50 @@ void TListView::setSmallImages(TImageList *images)
     m_model->setImages(images);
     if (images)
         setIconSize(images->size());
+    m_rowHeight = 0;
+    updateImageRoom();
+}
+
+void TListView::setRowImageRoom(bool on)
+{
+    m_keepImageRoom = on;
+    updateImageRoom();
+}
+
+int TListView::rowHeight() const
+{
+    if (m_rowHeight == 0) {
+        QFont bold = font();
+        bold.setBold(true);
+        const int text = std::max(textHeight(font(), this), textHeight(bold, this));
+        const int image = m_images ? iconSize().height() : 0;
+        // A pixel above and below, as the style gives a row with an image.
+        m_rowHeight = std::max(text, image) + 2;
+    }
+    return m_rowHeight;
+}
+
+void TListView::updateImageRoom()
+{
+    const int captionWidth = columnCount() > 0 ? columnWidth(0) : 0;
+    m_imageRoom = 0;
+    if (m_keepImageRoom && m_images) {
+        // What the style takes from a cell for its decoration.
+        QStyleOptionViewItem option;
+        initViewItemOption(&option);
+        option.rect = QRect(0, 0, 1000, rowHeight());
+        option.text = QStringLiteral("0");
+        option.features = QStyleOptionViewItem::HasDisplay;
+        const auto textLeft = [&] {
+            return style()->subElementRect(QStyle::SE_ItemViewItemText, &option, this).left();
+        };
+        const int plain = textLeft();
+        option.features |= QStyleOptionViewItem::HasDecoration;
+        option.decorationSize = iconSize();
+        m_imageRoom = std::max(0, textLeft() - plain);
+    }
+    if (captionWidth > 0)
+        setColumnWidth(0, captionWidth);
 }
 
 void TListView::sortRows(int column, SortKind kind)
@@ -166,6 +237,10 @@ void TListView::changeEvent(QEvent *event)
 {
     if (event->type() == QEvent::FontChange)
         m_model->setBaseFont(font());
+    if (event->type() == QEvent::FontChange || event->type() == QEvent::StyleChange) {
+        m_rowHeight = 0;
+        updateImageRoom();
+    }
     QTreeView::changeEvent(event);
 }
 

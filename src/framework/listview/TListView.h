@@ -25,7 +25,8 @@ public:
     int addColumn(const QString &caption, int width = 100);
     int columnCount() const { return m_model->columns(); }
     QString columnCaption(int column) const { return m_model->columnCaption(column); }
-    // A width of 0 hides the column; a hidden column reads as 0 wide.
+    // A width of 0 hides the column; a hidden column reads as 0 wide. The
+    // room column 0 keeps for row images is not part of its width.
     int columnWidth(int column) const;
     void setColumnWidth(int column, int width);
     int columnTag(int column) const { return m_model->columnTag(column); }
@@ -75,6 +76,16 @@ public:
 
     void setSmallImages(TImageList *images);
     TImageList *smallImages() const { return m_images; }
+    // Rows carry images: column 0 keeps an image's room in every row,
+    // beside the width the owner gives the column, so a row with an image
+    // shows as much of its caption as a row without one.
+    void setRowImageRoom(bool on);
+    // The room column 0 keeps for an image; 0 when it keeps none.
+    int rowImageRoom() const { return m_imageRoom; }
+    // The height of every row, whatever the rows hold: the tallest Polish
+    // letters of the list's font, plain or bold, or an image of the image
+    // list, whichever is higher.
+    int rowHeight() const;
 
     // Sorts ascending by a column; throws SortConversionError (and keeps
     // the order) when a typed column holds a value of another kind.
@@ -101,10 +112,15 @@ protected:
                  const QModelIndex &index) const override;
 
 private:
+    void updateImageRoom();
+
     TListViewModel *m_model;
     TImageList *m_images = nullptr;
     int m_tag = -1;
     int m_selectedBeforeUpdate = -1;
     bool m_clearedInUpdate = false;
     bool m_gridLines = false;
+    bool m_keepImageRoom = false;
+    int m_imageRoom = 0;
+    mutable int m_rowHeight = 0;   // 0 until measured for the current font
 };

@@ -17,7 +17,10 @@
 #include <QLineEdit>
 #include <QMenu>
 #include <QPushButton>
+#include <QStyle>
 #include <QTimer>
+
+#include <algorithm>
 
 namespace {
 
@@ -28,6 +31,8 @@ int &sharedSearchColumn()
 }
 
 constexpr QSize ImageSize(20, 20);
+// Room the search box keeps, in average characters, when the frame is narrow.
+constexpr int SearchBoxCharacters = 25;
 
 } // namespace
 
@@ -82,6 +87,7 @@ void TframeListView::buildLayout()
         btnOpcje, btnUnBold, BitBtn1, BitBtn2, BitBtn5, BitBtn4, BitBtn6, BitBtn7};
     for (QPushButton *button : topButtons)
         topLayout->addWidget(button);
+    fitSearchRow();
 
     QWidget *expanded = pnlSearch->expandedPart();
     btnSearch = namedButton(QStringLiteral("S&zukaj"), QStringLiteral("btnSearch"), expanded);
@@ -190,6 +196,29 @@ bool TframeListView::event(QEvent *event)
         return true;
     }
     return QFrame::event(event);
+}
+
+void TframeListView::changeEvent(QEvent *event)
+{
+    QFrame::changeEvent(event);
+    if (pnlSearch
+        && (event->type() == QEvent::FontChange || event->type() == QEvent::StyleChange))
+        fitSearchRow();
+}
+
+void TframeListView::fitSearchRow()
+{
+    // In a narrow window the buttons of the search row give up their
+    // spare width before the search box gets too small to type into.
+    const int frame = style()->pixelMetric(QStyle::PM_ButtonMargin)
+        + style()->pixelMetric(QStyle::PM_DefaultFrameWidth);
+    for (QPushButton *button : pnlSearch->topRow()->findChildren<QPushButton *>()) {
+        QString caption = button->text();
+        caption.remove(QLatin1Char('&'));
+        const int captionWidth = button->fontMetrics().horizontalAdvance(caption) + 2 * frame;
+        button->setMinimumWidth(std::min(captionWidth, button->sizeHint().width()));
+    }
+    edSearch->setMinimumWidth(edSearch->fontMetrics().averageCharWidth() * SearchBoxCharacters);
 }
 
 bool TframeListView::eventFilter(QObject *watched, QEvent *event)

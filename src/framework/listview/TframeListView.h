@@ -104,7 +104,7 @@ public:
     QString settingsGroup() const;
 
     // Components, by their documented names.
-    TSearchPanel *pnlSearch;
+    TSearchPanel *pnlSearch = nullptr;
     QLabel *Label1;
     QLineEdit *edSearch;
     QPushButton *btnSearch;
@@ -129,10 +129,12 @@ public:
 
 protected:
     bool event(QEvent *event) override;
+    void changeEvent(QEvent *event) override;
     bool eventFilter(QObject *watched, QEvent *event) override;
 
 private:
     void buildLayout();
+    void fitSearchRow();
     void sortListView(TListView &list);
     void buildPopupMenu();
     void connectSignals();

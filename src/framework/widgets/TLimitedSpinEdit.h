@@ -1,15 +1,19 @@
 #pragma once
 
-#include <QLineEdit>
-#include <QSpinBox>
+#include "TLimitedFloatEdit.h"
 
-// A spin edit that also limits how many characters can be typed into it.
-class TLimitedSpinEdit : public QSpinBox
+// A whole-number field, built like TLimitedFloatEdit without decimals.
+class TLimitedSpinEdit : public TLimitedFloatEdit
 {
     Q_OBJECT
 
 public:
-    explicit TLimitedSpinEdit(QWidget *parent = nullptr) : QSpinBox(parent) {}
-    void setMaxLength(int characters) { lineEdit()->setMaxLength(characters); }
-    int maxLength() const { return lineEdit()->maxLength(); }
+    explicit TLimitedSpinEdit(QWidget *parent = nullptr);
+
+    int value() const { return static_cast<int>(TNumberEdit::value()); }
+    int minimum() const { return static_cast<int>(TNumberEdit::minimum()); }
+    int maximum() const { return static_cast<int>(TNumberEdit::maximum()); }
+
+private:
+    using TLimitedFloatEdit::setDecimals;
 };

@@ -1,58 +1,123 @@
 #include "TNumberEdit.h"
 
 #include "Format.h"
+#include "TypedNumber.h"
+
+#include <QLineEdit>
+
+#include <algorithm>
+
+namespace {
+
+TypedNumber::Limits limitsOf(const TNumberEdit &edit)
+{
+    return {edit.decimals(), edit.minimum(), edit.maximum()};
+}
+
+} // namespace
 
 TNumberEdit::TNumberEdit(const QString &pattern, int decimals, double maximum, QWidget *parent)
-    : QDoubleSpinBox(parent), m_pattern(pattern)
+    : TNumberEdit(parent)
 {
-    setDecimals(decimals);
-    setRange(0.0, maximum);
+    m_maximum = maximum;
+    setPattern(pattern, decimals);
+}
+
+TNumberEdit::TNumberEdit(QWidget *parent) : TTypedEdit(parent)
+{
     setButtonSymbols(QAbstractSpinBox::NoButtons);
     setAlignment(Qt::AlignRight | Qt::AlignVCenter);
-    setKeyboardTracking(false);
+    showValue();
 }
 
-QString TNumberEdit::textFromValue(double value) const
+void TNumberEdit::setPattern(const QString &pattern, int decimals)
 {
-    return Format::number(value, m_pattern);
+    m_pattern = pattern;
+    m_decimals = decimals;
+    m_value = TypedNumber::rounded(m_value, decimals);
+    updateGeometry();
+    showValue();
 }
 
-QString TNumberEdit::numberPart(const QString &text) const
+void TNumberEdit::setMinimum(double minimum)
 {
-    QString number;
-    for (const QChar c : text) {
-        if (c.isDigit() || c == u',' || c == u'.' || c == u'-')
-            number += c;
-    }
-    return number;
+    setRange(minimum, std::max(minimum, m_maximum));
 }
 
-double TNumberEdit::valueFromText(const QString &text) const
+void TNumberEdit::setMaximum(double maximum)
 {
-    return Format::parseNumber(numberPart(text)).value_or(0.0);
+    setRange(std::min(m_minimum, maximum), maximum);
 }
 
-QValidator::State TNumberEdit::validate(QString &text, int &) const
+void TNumberEdit::setRange(double minimum, double maximum)
 {
-    const QString number = numberPart(text);
-    if (number.isEmpty() || number == u"-")
-        return QValidator::Intermediate;
-    const qsizetype point = std::max(number.lastIndexOf(u','), number.lastIndexOf(u'.'));
-    if (point >= 0 && number.size() - point - 1 > decimals())
-        return QValidator::Invalid;
-    const bool endsWithPoint = point == number.size() - 1;
-    const std::optional<double> value
-        = Format::parseNumber(endsWithPoint ? number.left(point) : number);
-    if (!value)
-        return QValidator::Invalid;
-    if (*value > maximum())
-        return QValidator::Invalid;
-    if (*value < minimum() || endsWithPoint)
-        return QValidator::Intermediate;
-    return QValidator::Acceptable;
+    m_minimum = minimum;
+    m_maximum = std::max(minimum, maximum);
+    updateGeometry();
+    setValue(m_value);
 }
 
-void TNumberEdit::fixup(QString &text) const
+void TNumberEdit::setValue(double value)
 {
-    text = textFromValue(std::clamp(valueFromText(text), minimum(), maximum()));
+    changeValue(std::clamp(TypedNumber::rounded(value, m_decimals), m_minimum, m_maximum));
+    showValue();
+}
+
+void TNumberEdit::changeValue(double value)
+{
+    if (value == m_value)
+        return;
+    m_value = value;
+    Q_EMIT valueChanged(value);
+}
+
+void TNumberEdit::stepBy(int steps)
+{
+    setValue(m_value + steps);
+    if (hasFocus())
+        selectAll();
+}
+
+QAbstractSpinBox::StepEnabled TNumberEdit::stepEnabled() const
+{
+    if (isReadOnly())
+        return StepNone;
+    StepEnabled enabled = StepNone;
+    if (m_value < m_maximum)
+        enabled |= StepUpEnabled;
+    if (m_value > m_minimum)
+        enabled |= StepDownEnabled;
+    return enabled;
+}
+
+bool TNumberEdit::fits(const QString &text) const
+{
+    return TypedNumber::fits(text, limitsOf(*this));
+}
+
+QString TNumberEdit::textProblem(const QString &text) const
+{
+    return TypedNumber::problem(text, limitsOf(*this));
+}
+
+void TNumberEdit::take(const QString &text)
+{
+    changeValue(TypedNumber::read(text).value_or(m_value));
+}
+
+QString TNumberEdit::shownText() const
+{
+    return Format::number(m_value, m_pattern);
+}
+
+QString TNumberEdit::editedText() const
+{
+    return TypedNumber::editable(m_value, m_decimals);
+}
+
+QString TNumberEdit::widestText() const
+{
+    const QString low = Format::number(m_minimum, m_pattern);
+    const QString high = Format::number(m_maximum, m_pattern);
+    return low.size() > high.size() ? low : high;
 }

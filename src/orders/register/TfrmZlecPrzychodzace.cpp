@@ -9,6 +9,7 @@
 #include "SessionContext.h"
 #include "TBitBtn.h"
 #include "TDaneFirmy.h"
+#include "TDateEdit.h"
 #include "TImageList.h"
 #include "TRadioGroup.h"
 #include "TframeListView.h"
@@ -16,7 +17,6 @@
 #include <QAction>
 #include <QBoxLayout>
 #include <QComboBox>
-#include <QDateEdit>
 #include <QLabel>
 #include <QMenu>
 
@@ -25,12 +25,11 @@ namespace {
 constexpr int MinimumWidth = 712;
 constexpr QSize InitialSize(963, 649);
 
-QDateEdit *dateEdit(const QString &name, QWidget *parent)
+TDateEdit *dateEdit(const QString &name, QWidget *parent)
 {
-    auto *edit = new QDateEdit(parent);
+    auto *edit = new TDateEdit(parent);
     edit->setObjectName(name);
-    edit->setCalendarPopup(true);
-    edit->setDisplayFormat(QStringLiteral("yyyy-MM-dd"));
+    edit->setEmptyAllowed(false);
     return edit;
 }
 
@@ -72,6 +71,8 @@ TfrmZlecPrzychodzace::TfrmZlecPrzychodzace(QWidget *owner) : TfrmRODefault(owner
     while (images->count() < ClosedOrderImage)
         images->add(QIcon());
     images->add(closedOrderIcon(images->size()));
+    // The padlock must not take the room of the 8 digits of "Numer".
+    list->setRowImageRoom(true);
     client->addWidget(frameListView1, 1);
 
     pnlBttns = new QWidget(pnlClient);
@@ -146,19 +147,35 @@ void TfrmZlecPrzychodzace::buildButtons(QWidget *parent)
         = TBitBtn::create(QStringLiteral("D&rukuj zlecenie"), QStringLiteral("BitBtn1"), parent);
     BitBtn6 = TBitBtn::create(QStringLiteral("&Kilometry"), QStringLiteral("BitBtn6"), parent);
     btnCenniki = TBitBtn::create(QStringLiteral("-> *.CSV"), QStringLiteral("btnCenniki"), parent);
+    btnKarta
+        = TBitBtn::create(QStringLiteral("&Generuj Karte"), QStringLiteral("btnKarta"), parent);
+    BtnFakturaObca = TBitBtn::create(QStringLiteral("Faktura O&bca"),
+                                     QStringLiteral("BtnFakturaObca"), parent);
+    btnZest = TBitBtn::create(QStringLiteral("Zestawienie"), QStringLiteral("btnZest"), parent);
 
-    auto *layout = new QHBoxLayout(parent);
-    layout->setContentsMargins(6, 4, 6, 4);
+    // Two rows, so that every caption stays whole at the window's minimum
+    // width: the order's own dialogs above, its documents below.
+    auto *rows = new QVBoxLayout(parent);
+    rows->setContentsMargins(6, 4, 6, 4);
+    rows->setSpacing(4);
+    auto *layout = new QHBoxLayout;
+    rows->addLayout(layout);
     layout->addWidget(btnPowiel);
     layout->addWidget(BitBtn5);
     layout->addWidget(BitBtn12);
     layout->addWidget(BitBtn13);
     layout->addWidget(BitBtn4);
-    layout->addWidget(BitBtn10);
-    layout->addWidget(BitBtn1);
+    layout->addWidget(btnKarta);
     layout->addStretch(1);
     layout->addWidget(BitBtn6);
     layout->addWidget(btnCenniki);
+    auto *documents = new QHBoxLayout;
+    rows->addLayout(documents);
+    documents->addWidget(BitBtn10);
+    documents->addWidget(BitBtn1);
+    documents->addWidget(BtnFakturaObca);
+    documents->addStretch(1);
+    documents->addWidget(btnZest);
 }
 
 void TfrmZlecPrzychodzace::buildFooter()
@@ -206,6 +223,8 @@ void TfrmZlecPrzychodzace::buildActions()
     Zamknij1 = action(QStringLiteral("Zamknij\\Otwórz"), QStringLiteral("Zamknij1"));
     acPrintFra = action(QStringLiteral("Drukuj fakturę"), QStringLiteral("acPrintFra"));
     acDrukuj = action(QStringLiteral("D&rukuj zlecenie"), QStringLiteral("acDrukuj"));
+    acKarta = action(QStringLiteral("&Generuj kartę"), QStringLiteral("acKarta"));
+    acZestawienie = action(QStringLiteral("Zestawienie"), QStringLiteral("acZestawienie"));
 
     for (QAction *withShortcut : {acShowDelete, acAdvancedEdit})
         withShortcut->setShortcutContext(Qt::WidgetWithChildrenShortcut);
@@ -230,6 +249,9 @@ void TfrmZlecPrzychodzace::buildActions()
     connect(Zamknij1, &QAction::triggered, this, &TfrmZlecPrzychodzace::Zamknij1Click);
     connect(acPrintFra, &QAction::triggered, this, &TfrmZlecPrzychodzace::acPrintFraExecute);
     connect(acDrukuj, &QAction::triggered, this, &TfrmZlecPrzychodzace::acDrukujExecute);
+    connect(acKarta, &QAction::triggered, this, &TfrmZlecPrzychodzace::acKartaExecute);
+    connect(acZestawienie, &QAction::triggered, this,
+            &TfrmZlecPrzychodzace::acZestawienieExecute);
 
     linkButton(frameListView1->BitBtn5, acDodaj);
     linkButton(frameListView1->BitBtn4, acPopraw);
@@ -241,10 +263,15 @@ void TfrmZlecPrzychodzace::buildActions()
     linkButton(BitBtn4, acMiejscaRozladunku);
     linkButton(BitBtn10, acPrintFra);
     linkButton(BitBtn1, acDrukuj);
+    linkButton(btnKarta, acKarta);
+    linkButton(btnZest, acZestawienie);
     connect(frameListView1->BitBtn7, &QPushButton::clicked, frameListView1,
             &TframeListView::Refresh);
     connect(btnCenniki, &QPushButton::clicked, this, &TfrmZlecPrzychodzace::btnCennikiClick);
     connect(BitBtn6, &QPushButton::clicked, this, &TfrmZlecPrzychodzace::BitBtn6Click);
+    connect(BtnFakturaObca, &QPushButton::clicked, this,
+            &TfrmZlecPrzychodzace::BtnFakturaObcaClick);
+    buildStatementsMenu();
 
     if (BtnKalendarz1) {
         BtnKalendarz1->show();

@@ -5,10 +5,10 @@
 
 class QAction;
 class QComboBox;
-class QDateEdit;
 class QLabel;
 class QMenu;
 class TBitBtn;
+class TDateEdit;
 class TRadioGroup;
 class TframeListView;
 
@@ -41,8 +41,8 @@ public:
     double total() const { return m_total; }
 
     // Filters.
-    QDateEdit *deOd;
-    QDateEdit *deDo;
+    TDateEdit *deOd;
+    TDateEdit *deDo;
     TRadioGroup *RadioGroup1;   // "Rodzaj zlecenia"
     TRadioGroup *RadioGroup2;   // "Umiejscowienie", hidden
     QLabel *Label4;             // "Dysponent:", hidden
@@ -61,6 +61,9 @@ public:
     TBitBtn *BitBtn1;     // "D&rukuj zlecenie"
     TBitBtn *BitBtn6;     // "&Kilometry"
     TBitBtn *btnCenniki;  // "-> *.CSV"
+    TBitBtn *btnKarta;         // "&Generuj Karte"
+    TBitBtn *BtnFakturaObca;   // "Faktura O&bca"
+    TBitBtn *btnZest;          // "Zestawienie": pops up pmZestaw
 
     QLabel *lblKwota;
 
@@ -79,6 +82,12 @@ public:
     QAction *Zamknij1;         // popup "Zamknij\Otwórz"
     QAction *acPrintFra;       // the selected order's invoice and attachment
     QAction *acDrukuj;         // the selected order's transport order
+    QAction *acKarta;          // the selected order onto a road card
+    QAction *acZestawienie;
+
+    // The statements, in the order dispatchers know them; the carriers'
+    // invoice lists among them.
+    QMenu *pmZestaw;
 
 protected:
     void FormCreate() override;
@@ -109,6 +118,12 @@ private:
     void acPrintFraExecute();
     void acDrukujExecute();
     void BitBtn6Click();
+    void buildStatementsMenu();
+    void acKartaExecute();
+    void BtnFakturaObcaClick();
+    void acZestawienieExecute();
+    // The carrier of the selected order, 0 without a selection.
+    int selectedCarrier() const;
 
     // The order editor, modally; returns its modal result.
     int runEditor(int orderKey, int mode);

@@ -59,4 +59,5 @@ void TfrmZlecPrzychodzace::UpdateControls()
     for (QAction *action : {acPopraw, acDelete, acPowiel, acTowary, acMiejsceZaladunku,
                             acMiejscaRozladunku})
         action->setEnabled(selected);
+    acKarta->setEnabled(selected && m_kartaZeZlecen);
 }

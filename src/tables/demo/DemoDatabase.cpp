@@ -20,7 +20,7 @@ namespace {
 
 // Written into the marker; a demo database of another edition (an older
 // schema, other demo data) is made again.
-constexpr char Edition[] = "3: NUMERACJA";
+constexpr char Edition[] = "4: NUMERACJA, carriers' invoices paid and unpaid";
 
 bool currentEdition(const QString &marker)
 {

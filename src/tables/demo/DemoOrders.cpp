@@ -22,6 +22,46 @@ DateTime at(QDate day, int hour)
     return DateTime(DateTime::fromDate(day).days() + hour / 24.0);
 }
 
+// The carriers' invoices take, in turn, every state their lists show: not
+// yet due, overdue with half of it paid, paid in time and paid late. An
+// invoice too recent to be past due is not yet due. NRRAMPY is the paid mark.
+void settleCarrierInvoice(TZlecenia_przychObj &o, QDate issued, QDate today, int turn)
+{
+    enum State { NotDue, Overdue, PaidInTime, PaidLate };
+    const qint64 sinceIssue = issued.daysTo(today);
+    int term = 0;
+    for (const int days : {21, 14, 7}) {
+        if (days <= sinceIssue - 2) {
+            term = days;
+            break;
+        }
+    }
+    const State state = term == 0 ? NotDue : State(turn % 4);
+    o.DNI_FAKT = state == NotDue ? 30 : term;
+    const QDate due = issued.addDays(o.DNI_FAKT);
+    QDate paid = due;
+    o.NRRAMPY = 0;
+    o.ZAPLACONA_KWOTA = 0.0;
+    switch (state) {
+    case NotDue:
+        break;
+    case Overdue:
+        o.ZAPLACONA_KWOTA = std::round(o.KWOTA_FAKT_PRZEW / 2.0);
+        break;
+    case PaidInTime:
+        paid = due.addDays(-1 - turn % 3);
+        break;
+    case PaidLate:
+        paid = std::min(due.addDays(1 + turn % 5), today);
+        break;
+    }
+    if (state == PaidInTime || state == PaidLate) {
+        o.NRRAMPY = 1;
+        o.ZAPLACONA_KWOTA = o.KWOTA_FAKT_PRZEW;
+    }
+    o.DATA_FAKT_PLATNOSCI = DateTime::fromDate(paid);
+}
+
 } // namespace
 
 const TTaryfyprzewoznikaObj &DemoSeeder::tariffWithKey(int key)
@@ -46,6 +86,7 @@ std::vector<DemoSeeder::PlannedOrder> DemoSeeder::planOrders()
     std::vector<PlannedOrder> plan;
     plan.reserve(offsets.size());
     std::map<int, int> numberInYear;
+    int carrierInvoices = 0;
     constexpr int domesticCities = 20;
     for (const int offset : offsets) {
         PlannedOrder p(m_connection);
@@ -76,7 +117,6 @@ std::vector<DemoSeeder::PlannedOrder> DemoSeeder::planOrders()
         o.DATA_ROZLADUNKU = o.DOSTARCZENIE;
         o.PALETYILOSC = int(m_random.bounded(34));
         o.KM_PUSTE = std::round(m_random.bounded(230) * 100.0 + 1000.0) / 1000.0;   // tonnes
-        o.NRRAMPY = 1 + int(m_random.bounded(8));
         o.IDUSER = 1 + int(m_random.bounded(3));
         o.FILTR1 = 1 + int(m_random.bounded(2));
         o.FILTR2 = m_random.bounded(8) == 0 ? 1 : 0;
@@ -134,18 +174,18 @@ std::vector<DemoSeeder::PlannedOrder> DemoSeeder::planOrders()
                 o.KOSZTRAZEM = o.KOSZTKWOTA;
             }
             o.KOSZTYRAZEM = o.KOSZTRAZEM;
-            if (offset < -7 && m_random.bounded(10) < 7) {
-                // The carrier's invoice has come in.
-                const QDate issued = day.addDays(2 + int(m_random.bounded(4)));
+            if (offset < -2 && m_random.bounded(10) < 7) {
+                // The carrier's invoice has come in, up to today: so that a
+                // list of this month's invoices is never empty.
+                const QDate issued
+                    = std::min(day.addDays(2 + int(m_random.bounded(4))), m_options.today);
                 o.NUMER_FAKT_PRZEW = QStringLiteral("FV %1/%2/%3").arg(1 + m_random.bounded(400))
                                          .arg(issued.month(), 2, 10, QLatin1Char('0')).arg(issued.year());
                 o.KWOTA_FAKT_PRZEW = o.KOSZTRAZEM;
                 o.DATA_FAKT_WYSTAWIENIA = DateTime::fromDate(issued);
-                o.DATA_FAKT_OTRZYMANIA = DateTime::fromDate(issued.addDays(3));
-                o.DNI_FAKT = 30;
-                o.DATA_FAKT_PLATNOSCI = DateTime::fromDate(issued.addDays(30));
-                if (issued.addDays(30) < m_options.today)
-                    o.ZAPLACONA_KWOTA = o.KWOTA_FAKT_PRZEW;
+                const QDate received = std::min(issued.addDays(3), m_options.today);
+                o.DATA_FAKT_OTRZYMANIA = DateTime::fromDate(received);
+                settleCarrierInvoice(o, issued, m_options.today, carrierInvoices++);
             }
         }
         if (offset < -14 && m_random.bounded(10) < 3)

@@ -19,6 +19,8 @@ void DemoSeeder::seed()
 {
     Transaction transaction(m_connection);
     TransactionScope scope(transaction);
+    if (const Contents found = contents(m_connection); found != Contents::Empty)
+        throw DbError(describe(found));
     seedDictionaries();
     seedCitiesAndDistances();
     seedContractors();
@@ -75,8 +77,6 @@ void DemoSeeder::seedDictionaries()
                               || s == QLatin1String("JPY")) ? 100 : 1;
         currency.Insert();
     }
-    if (lastKey(QStringLiteral("SYMBOLE_WALUT")) < DomesticCurrency)
-        throw DbError(QStringLiteral("Baza nie jest pusta: dane demonstracyjne wymagają pustej bazy."));
 
     TNumery_tabel_kursowObj table(m_connection);
     const struct { int daysBack; const char *number; double eur, usd, czk; } rateTables[] = {
@@ -235,9 +235,7 @@ void DemoSeeder::seedContractors()
         contractor.Insert();
         return lastKey(QStringLiteral("KONTRAHENCI"));
     };
-    const int owner = insert(OwnCompany, 14);
-    if (owner != OwnerKey)
-        throw DbError(QStringLiteral("Baza nie jest pusta: dane demonstracyjne wymagają pustej bazy."));
+    insert(OwnCompany, 14);
     for (const Company &c : Clients)
         m_clientKeys.push_back(insert(c, 30));
     for (const Company &c : Carriers)

@@ -28,8 +28,21 @@ public:
 
     DemoSeeder(Connection &connection, Options options);
 
-    // Everything in one transaction: all or nothing. Throws DbError.
+    // Everything in one transaction: all or nothing. Throws DbError, also
+    // when the database is not Empty (with the description of what it is).
     void seed();
+
+    // What a database holds before seeding.
+    enum class Contents {
+        Empty,          // no rows, no key used yet: the demo company can go in
+        Data,           // rows in a table
+        // No rows, but key generators used: what a seed that was stopped
+        // leaves, since its transaction goes back and the generators do not.
+        SeedLeftovers,
+    };
+    static Contents contents(Connection &connection);
+    // One Polish sentence saying what the database holds.
+    static QString describe(Contents contents);
 
     // What the database holds, one line per table, for people to read.
     static QStringList summary(Connection &connection);

@@ -15,7 +15,6 @@
 
 #include <QAction>
 #include <QComboBox>
-#include <QDateEdit>
 #include <QLineEdit>
 #include <QTest>
 

@@ -2,13 +2,16 @@
 #include "OrderListColumns.h"
 #include "RegisterFixture.h"
 #include "Statement.h"
+#include "TDateEdit.h"
 #include "TImageList.h"
 #include "TRadioGroup.h"
 #include "TframeListView.h"
 
+#include <QApplication>
 #include <QComboBox>
-#include <QDateEdit>
 #include <QLabel>
+#include <QLineEdit>
+#include <QPushButton>
 
 namespace {
 
@@ -94,6 +97,34 @@ TEST_F(RegisterList, ClosedOrdersCarryTheClosedImage)
     EXPECT_EQ(list->image(list->findByKey(closed)), TfrmZlecPrzychodzace::ClosedOrderImage);
     EXPECT_EQ(list->image(list->findByKey(open)), -1);
     EXPECT_FALSE(form->frameListView1->lvImages->icon(16).isNull());
+    // The padlock sits beside the number, which keeps its 60 pixels.
+    EXPECT_GT(list->rowImageRoom(), 0);
+    EXPECT_EQ(list->columnWidth(Col::Numer), 60);
+}
+
+TEST_F(RegisterList, AtItsMinimumWidthTheSearchBoxStaysUsableAndEveryButtonReadable)
+{
+    const auto form = openRegister();
+    form->resize(form->minimumWidth(), form->height());
+    form->show();
+    QApplication::processEvents();
+    const TframeListView &frame = *form->frameListView1;
+    const QLineEdit &box = *frame.edSearch;
+    const QString name = QStringLiteral("Mleczarnia Wąchock");
+    EXPECT_GE(box.width(), box.fontMetrics().horizontalAdvance(name));
+
+    const QWidget &row = *frame.pnlSearch->topRow();
+    int left = box.geometry().right();
+    for (const QPushButton *button : row.findChildren<QPushButton *>()) {
+        if (!button->isVisible())
+            continue;
+        const QString caption = button->text().remove(u'&');
+        EXPECT_GE(button->width(), button->fontMetrics().horizontalAdvance(caption))
+            << caption.toStdString();
+        EXPECT_GT(button->x(), left) << caption.toStdString();
+        left = button->geometry().right();
+    }
+    EXPECT_LE(left, row.width());
 }
 
 TEST_F(RegisterList, TheTotalAddsTheRevenueOfTheListedRows)

@@ -1,0 +1,128 @@
+// The register's actions around the carriers: road cards, the carrier's
+// invoice of an order and the statements menu with the carriers' lists.
+#include "TfrmZlecPrzychodzace.h"
+
+#include "CarrierInvoice.h"
+#include "MessageService.h"
+#include "OrderListColumns.h"
+#include "OrderRoadCard.h"
+#include "Privileges.h"
+#include "ReportFailures.h"
+#include "SessionContext.h"
+#include "TDaneFirmy.h"
+#include "TFrmNiezaplaconeList.h"
+#include "TVzlecenia_przychObj.h"
+#include "TframeListView.h"
+#include "TfrmFaktPrzew.h"
+#include "TfrmKartaDrogowa.h"
+#include "TfrmWydrukiPrzewoz.h"
+
+#include <QAction>
+#include <QMenu>
+
+#include <functional>
+#include <optional>
+
+namespace {
+
+const QString GoneText = QStringLiteral(
+    "Zlecenia nie ma już w bazie: mogło zostać usunięte na innym stanowisku.");
+
+void tellOrderGone(const QString &caption)
+{
+    Messages::inform(caption, GoneText, MessageService::Icon::Warning);
+}
+
+} // namespace
+
+void TfrmZlecPrzychodzace::buildStatementsMenu()
+{
+    pmZestaw = new QMenu(this);
+    pmZestaw->setObjectName(QStringLiteral("pmZestaw"));
+    // The entries keep the places they have always had in this menu; the
+    // statements not listed here are not part of the module yet.
+    const auto carrierList = [this](CarrierInvoiceList::Mode mode) {
+        const auto list = TfrmRODefault::create<TfrmWydrukiPrzewoz>(this, selectedCarrier(), mode);
+        list->showModal();
+    };
+    const std::pair<const char *, std::function<void()>> entries[] = {
+        {"Faktury przewożnika niezapłacone", [=] { carrierList(CarrierInvoiceList::Unpaid); }},
+        {"Faktury przewoźnika zapłacone", [=] { carrierList(CarrierInvoiceList::Paid); }},
+        {"Zestawienie faktur przewoźników", [=] { carrierList(CarrierInvoiceList::Issued); }},
+        {"Płatność - przewoźnicy",
+         [this] {
+             if (Connection *database = session().Database)
+                 TFrmNiezaplaconeList(*database).Preview();
+         }},
+    };
+    for (const auto &[caption, run] : entries)
+        connect(pmZestaw->addAction(QString::fromUtf8(caption)), &QAction::triggered, this, run);
+}
+
+void TfrmZlecPrzychodzace::acZestawienieExecute()
+{
+    TListView *list = frameListView1->lvMain;
+    pmZestaw->popup(list->mapToGlobal(list->rect().topLeft()));
+}
+
+int TfrmZlecPrzychodzace::selectedCarrier() const
+{
+    const int key = selectedOrder();
+    Connection *database = session().Database;
+    if (key == 0 || !database)
+        return 0;
+    return TVzlecenia_przychObj(*database).SelectById(key).IDPRZEWOZNIK;
+}
+
+void TfrmZlecPrzychodzace::acKartaExecute()
+{
+    const int key = selectedOrder();
+    if (key == 0 || !m_kartaZeZlecen)
+        return;
+    const int choice = TfrmKartaDrogowa::choose(this);
+    if (choice == TfrmKartaDrogowa::Cancelled)
+        return;
+    if (choice == TfrmKartaDrogowa::NewCard) {
+        // A new card is made in the road-card module itself; here the
+        // dispatcher only learns whether the right to it is there.
+        Privileges::require(Privileges::Edit, this);
+        return;
+    }
+    if (!TDaneFirmy().EditRoadCard(choice))
+        return;
+    bool assigned = false;
+    if (!reportFailures(QStringLiteral("Nie można zapisać karty drogowej w zleceniu"), [&] {
+            assigned = OrderRoadCard::assign(*session().Database, key, choice);
+        }))
+        return;
+    if (!assigned) {
+        tellOrderGone(QStringLiteral("Karta drogowa"));
+        return;
+    }
+    // The list is not read again; the order's row shows its card at once.
+    TListView *list = frameListView1->lvMain;
+    const int row = list->findByKey(key);
+    if (row >= 0)
+        list->items().setText(row, OrderListColumns::NrKarty,
+                              QStringLiteral("%1").arg(choice, 5, 10, QLatin1Char('0')));
+}
+
+void TfrmZlecPrzychodzace::BtnFakturaObcaClick()
+{
+    const int key = selectedOrder();
+    Connection *database = session().Database;
+    if (key == 0 || !database)
+        return;
+    std::optional<CarrierInvoice> invoice;
+    if (!reportFailures(QStringLiteral("Nie można odczytać faktury przewoźnika"),
+                        [&] { invoice = CarrierInvoice::load(*database, key); }))
+        return;
+    if (!invoice) {
+        tellOrderGone(QStringLiteral("Faktura przewoźnika"));
+        reloadAndSelect(key);
+        return;
+    }
+    const auto dialog = TfrmRODefault::create<TfrmFaktPrzew>(this, key, *invoice);
+    dialog->showModal();
+    reloadAndSelect(key);
+}

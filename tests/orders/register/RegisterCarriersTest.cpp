@@ -1,0 +1,247 @@
+// The register's road card, carrier's invoice and statements menu.
+#include "CarrierInvoiceList.h"
+#include "OrderListColumns.h"
+#include "PdfFileReportOutput.h"
+#include "RegisterFixture.h"
+#include "ReportOutput.h"
+#include "ScriptedMessages.h"
+#include "ScriptedModalRunner.h"
+#include "TBitBtn.h"
+#include "TDateEdit.h"
+#include "TNumberEdit.h"
+#include "TRadioGroup.h"
+#include "TframeListView.h"
+#include "TfrmFaktPrzew.h"
+#include "TfrmKartaDrogowa.h"
+#include "TfrmWydrukiPrzewoz.h"
+#include "WindowScript.h"
+
+#include <QAction>
+#include <QCheckBox>
+#include <QComboBox>
+#include <QCoreApplication>
+#include <QFile>
+#include <QLineEdit>
+#include <QMenu>
+#include <QRadioButton>
+#include <QScopeGuard>
+#include <QSettings>
+#include <QTemporaryDir>
+#include <QTest>
+
+namespace {
+
+using Col = OrderListColumns::Column;
+
+void click(QAbstractButton *button)
+{
+    QTest::mouseClick(button, Qt::LeftButton, {}, QPoint(8, button->height() / 2));
+}
+
+} // namespace
+
+class RegisterCarriers : public RegisterFixture
+{
+protected:
+    int firstCard()
+    {
+        return db.scalar(QStringLiteral("SELECT MIN(ID_KARTY_DR) FROM KARTY_DR")).toInt();
+    }
+
+    // The road-card choice answers with the card, chosen with the arrow keys.
+    static void chooseCard(int card)
+    {
+        scriptedModalRunner().expect<TfrmKartaDrogowa>([card](TfrmKartaDrogowa &dialog) {
+            click(dialog.rbKarta->button(1));
+            for (int i = 0; i < dialog.cbKarta->count()
+                 && dialog.cbKarta->currentData().toInt() != card;
+                 ++i)
+                QTest::keyClick(dialog.cbKarta, Qt::Key_Down);
+            EXPECT_EQ(dialog.cbKarta->currentData().toInt(), card);
+            click(dialog.btnWykonaj);
+            return dialog.result();
+        });
+    }
+
+    // The road-card module's library is found through Haulix.ini beside
+    // the program, as the host's own is.
+    void useTheBuiltLibraries()
+    {
+        const QString ini = QCoreApplication::applicationDirPath() + QStringLiteral("/Haulix.ini");
+        if (QFile::exists(ini))
+            return;
+        QSettings settings(ini, QSettings::IniFormat);
+        settings.setValue(QStringLiteral("AppPath"),
+                          QString(QCoreApplication::applicationDirPath() + u'/'));
+        m_ini = ini;
+    }
+    void TearDown() override
+    {
+        if (!m_ini.isEmpty())
+            QFile::remove(m_ini);
+    }
+
+    QString m_ini;
+};
+
+TEST_F(RegisterCarriers, TheRoadCardActionNeedsARowAndTheSetting)
+{
+    const int key = addOrder();
+    auto form = openRegister();
+    ASSERT_TRUE(form->KartaZeZlecen());
+    EXPECT_EQ(form->btnKarta->text(), "&Generuj Karte");
+    EXPECT_EQ(form->acKarta->text(), "&Generuj kartę");
+    form->frameListView1->lvMain->setSelectedIndex(-1);
+    EXPECT_FALSE(form->acKarta->isEnabled());
+    EXPECT_FALSE(form->btnKarta->isEnabled());
+    select(*form, key);
+    EXPECT_TRUE(form->btnKarta->isEnabled());
+
+    db.exec(QStringLiteral("UPDATE KONFIGURACJA SET VALUE_INT=0 WHERE POLE='KartaZeZlecen'"));
+    form = openRegister();
+    select(*form, key);
+    EXPECT_FALSE(form->KartaZeZlecen());
+    EXPECT_FALSE(form->acKarta->isEnabled());
+    form->acKarta->trigger();
+    EXPECT_TRUE(scriptedModalRunner().ran().empty());
+}
+
+TEST_F(RegisterCarriers, ANewCardOnlyChecksTheRightToEdit)
+{
+    const int key = addOrder([](TZlecenia_przychObj &o) { o.NR_KARTY = 4; });
+    const TZlecenia_przychObj before = order(key);
+    const auto newCard = [] {
+        scriptedModalRunner().expect<TfrmKartaDrogowa>([](TfrmKartaDrogowa &dialog) {
+            click(dialog.btnWykonaj);
+            return dialog.result();
+        });
+    };
+    auto form = openRegister();
+    select(*form, key);
+    newCard();
+    QTest::mouseClick(form->btnKarta, Qt::LeftButton);
+    EXPECT_TRUE(scriptedModalRunner().allRun());
+    EXPECT_TRUE(scriptedMessages().shown().empty());
+    EXPECT_EQ(order(key).NR_KARTY, 4);
+    EXPECT_EQ(order(key).IDKARTYDR, before.IDKARTYDR);
+
+    setUser(3);   // may only run the register
+    form = openRegister();
+    select(*form, key);
+    newCard();
+    scriptedMessages().expect();
+    form->acKarta->trigger();
+    ASSERT_EQ(scriptedMessages().shown().size(), 1u);
+    EXPECT_EQ(scriptedMessages().shown()[0].caption, "Uprawnienia");
+    EXPECT_EQ(scriptedMessages().shown()[0].text,
+              "Uprawnienia do tej operacji nie zostały nadane przez administratora.");
+    EXPECT_EQ(order(key).NR_KARTY, 4);
+}
+
+TEST_F(RegisterCarriers, ACardSavedInTheRoadCardModuleGoesIntoTheOrderACancelledOneDoesNot)
+{
+    useTheBuiltLibraries();
+    const int key = addOrder([](TZlecenia_przychObj &o) { o.NR_KARTY = 0; });
+    const int card = firstCard();
+    auto form = openRegister();
+    select(*form, key);
+
+    WindowScript script;
+    script.then(QStringLiteral("TfrmAddEditKartyDrogowe"),
+                [](QWidget &window) { WindowScript::click(window, QStringLiteral("btnCancel")); });
+    chooseCard(card);
+    form->acKarta->trigger();
+    EXPECT_TRUE(script.finished()) << script.seen().join(u' ').toStdString();
+    EXPECT_EQ(order(key).NR_KARTY, 0);
+    EXPECT_EQ(cell(*form, key, Col::NrKarty), "00000");
+
+    script.then(QStringLiteral("TfrmAddEditKartyDrogowe"),
+                [](QWidget &window) { WindowScript::click(window, QStringLiteral("btnOk")); });
+    chooseCard(card);
+    form->acKarta->trigger();
+    EXPECT_TRUE(script.finished()) << script.seen().join(u' ').toStdString();
+    EXPECT_EQ(order(key).NR_KARTY, card);
+    EXPECT_EQ(cell(*form, key, Col::NrKarty), QStringLiteral("%1").arg(card, 5, 10, QChar(u'0')));
+    EXPECT_TRUE(scriptedMessages().shown().empty());
+}
+
+TEST_F(RegisterCarriers, TheCarriersInvoiceIsEnteredForTheSelectedOrderWhichIsShownAgain)
+{
+    const int key = addOrder([](TZlecenia_przychObj &o) {
+        o.NUMER_FAKT_PRZEW = QStringLiteral("FV 7/2026");
+        o.KWOTA_FAKT_PRZEW = 300.0;
+        o.NRRAMPY = 1;
+    });
+    auto form = openRegister();
+    select(*form, key);
+    EXPECT_EQ(form->BtnFakturaObca->text(), "Faktura O&bca");
+    scriptedModalRunner().expect<TfrmFaktPrzew>([key](TfrmFaktPrzew &dialog) {
+        EXPECT_EQ(dialog.orderKey(), key);
+        EXPECT_EQ(dialog.EdNumerFakt->text(), "FV 7/2026");
+        EXPECT_TRUE(dialog.CBZaplacono->isChecked());
+        dialog.EdNumerFakt->setFocus();
+        QTest::keyClick(dialog.EdNumerFakt, Qt::Key_End);
+        QTest::keyClicks(dialog.EdNumerFakt, QStringLiteral("/K"));
+        click(dialog.CBZaplacono);
+        QTest::mouseClick(dialog.btnOk, Qt::LeftButton);
+        return dialog.result();
+    });
+    // Alt+B, as the button's caption says.
+    form->show();
+    form->activateWindow();
+    ASSERT_TRUE(QTest::qWaitForWindowActive(form.get()));
+    form->frameListView1->lvMain->setFocus();
+    QTest::keyClick(form->frameListView1->lvMain, Qt::Key_B, Qt::AltModifier);
+    EXPECT_TRUE(QTest::qWaitFor([] { return scriptedModalRunner().allRun(); }));
+    EXPECT_EQ(order(key).NUMER_FAKT_PRZEW, "FV 7/2026/K");
+    EXPECT_EQ(order(key).NRRAMPY, 0);
+    EXPECT_EQ(cell(*form, key, Col::FaktPrzewoznika), "FV 7/2026/K");
+    EXPECT_EQ(form->selectedOrder(), key);
+
+    // Without a selected order there is no invoice to enter.
+    form->frameListView1->lvMain->setSelectedIndex(-1);
+    QTest::mouseClick(form->BtnFakturaObca, Qt::LeftButton);
+    EXPECT_EQ(scriptedModalRunner().ran().size(), 1u);
+}
+
+TEST_F(RegisterCarriers, TheStatementsMenuOpensTheCarriersListsForTheSelectedCarrier)
+{
+    const int carrier
+        = db.scalar(QStringLiteral("SELECT MAX(IDPRZEWOZNIK) FROM ZLECENIA_PRZYCH")).toInt();
+    const int key = addOrder([carrier](TZlecenia_przychObj &o) { o.IDPRZEWOZNIK = carrier; });
+    auto form = openRegister();
+    select(*form, key);
+
+    QStringList captions;
+    for (const QAction *entry : form->pmZestaw->actions())
+        captions << entry->text();
+    EXPECT_EQ(captions, (QStringList{QStringLiteral("Faktury przewożnika niezapłacone"),
+                                     QStringLiteral("Faktury przewoźnika zapłacone"),
+                                     QStringLiteral("Zestawienie faktur przewoźników"),
+                                     QStringLiteral("Płatność - przewoźnicy")}));
+    QTest::mouseClick(form->btnZest, Qt::LeftButton);
+    EXPECT_TRUE(form->pmZestaw->isVisible());
+    form->pmZestaw->hide();
+
+    using Mode = CarrierInvoiceList::Mode;
+    const Mode modes[] = {Mode::Unpaid, Mode::Paid, Mode::Issued};
+    for (int i = 0; i < 3; ++i) {
+        scriptedModalRunner().expect<TfrmWydrukiPrzewoz>(
+            [carrier, mode = modes[i]](TfrmWydrukiPrzewoz &dialog) {
+                EXPECT_EQ(dialog.mode(), mode);
+                EXPECT_EQ(dialog.CBKontrahenci->currentData().toInt(), carrier);
+                EXPECT_EQ(dialog.deOd->isVisible(), mode != Mode::Unpaid);
+                QTest::mouseClick(dialog.btnCancel, Qt::LeftButton);
+                return dialog.result();
+            });
+        form->pmZestaw->actions().at(i)->trigger();
+    }
+    EXPECT_TRUE(scriptedModalRunner().allRun());
+
+    QTemporaryDir dir;
+    ReportOutputs::Scoped<PdfFileReportOutput> files{dir.path()};
+    form->pmZestaw->actions().at(3)->trigger();
+    ASSERT_EQ(files->deliveries().size(), 1u);
+    EXPECT_EQ(files->deliveries()[0].kind, PdfFileReportOutput::Kind::Preview);
+    EXPECT_EQ(files->deliveries()[0].title, " Faktury przewoźników niezapłacone ");
+}
