@@ -7,6 +7,7 @@
 #include "TBitBtn.h"
 #include "TDateEdit.h"
 #include "TfrmWydrukiPrzewoz.h"
+#include "Typing.h"
 
 #include <QCheckBox>
 #include <QComboBox>
@@ -110,12 +111,8 @@ TEST_F(WydrukiPrzewoz, OkPreviewsTheChosenCarriersInvoicesOfThePeriod)
 TEST_F(WydrukiPrzewoz, APeriodEndingBeforeItStartsOrNoCarrierIsRefused)
 {
     const auto dialog = open(0, Mode::Issued);
-    dialog->deOd->setFocus();
-    QTest::keyClick(dialog->deOd, Qt::Key_End);
-    QTest::keyClick(dialog->deOd, Qt::Key_Up);   // a day later: still within the month
-    dialog->deDo->setFocus();
-    QTest::keyClick(dialog->deDo, Qt::Key_Home);
-    QTest::keyClick(dialog->deDo, Qt::Key_Down); // a year earlier
+    Typing::into(dialog->deOd, QStringLiteral("2026-03-10"));
+    Typing::into(dialog->deDo, QStringLiteral("2026-03-01"));
     scriptedMessages().expect();
     QTest::mouseClick(dialog->btnOk, Qt::LeftButton);
     ASSERT_EQ(scriptedMessages().shown().size(), 1u);
@@ -124,7 +121,7 @@ TEST_F(WydrukiPrzewoz, APeriodEndingBeforeItStartsOrNoCarrierIsRefused)
     EXPECT_TRUE(dialog->isVisible());
 
     // "Wszyscy" unchecked with no carrier to choose.
-    QTest::keyClick(dialog->deDo, Qt::Key_Up);
+    Typing::into(dialog->deDo, QStringLiteral("2026-03-31"));
     click(dialog->cbWszyscy);
     scriptedMessages().expect();
     QTest::mouseClick(dialog->btnOk, Qt::LeftButton);
