@@ -1,4 +1,5 @@
 // The period dialog of the statements of invoices.
+#include "DateTyping.h"
 #include "ScriptedMessages.h"
 #include "TBitBtn.h"
 #include "TDateEdit.h"
@@ -20,17 +21,6 @@ std::unique_ptr<TfrmWybierzDatyAndKontrahenta> open()
     dialog->activateWindow();
     EXPECT_TRUE(QTest::qWaitForWindowActive(dialog.get()));
     return dialog;
-}
-
-// Over a date's text: the year selected, the digits typed; each section
-// passes on to the next once it is full.
-void retypeDate(TDateEdit *field, const QString &text)
-{
-    field->setFocus();
-    QTest::keyClick(field, Qt::Key_Home);
-    for (int i = 0; i < 4; ++i)
-        QTest::keyClick(field, Qt::Key_Right, Qt::ShiftModifier);
-    QTest::keyClicks(field, QString(text).remove(QLatin1Char('-')));
 }
 
 // The box's accelerator clicks it a moment later, as a person sees it.
@@ -60,8 +50,8 @@ TEST(WybierzDatyAndKontrahenta, StartsOnTheCurrentMonthWithThePreviewTicked)
 TEST(WybierzDatyAndKontrahenta, TypedPeriodAndTickedBoxesComeBackWithOk)
 {
     const auto dialog = open();
-    retypeDate(dialog->deOd, QStringLiteral("2024-03-01"));
-    retypeDate(dialog->deDo, QStringLiteral("2024-03-31"));
+    DateTyping::retype(dialog->deOd, QStringLiteral("2024-03-01"));
+    DateTyping::retype(dialog->deDo, QStringLiteral("2024-03-31"));
     pressAlt(Qt::Key_W, dialog->cbWlasny);
     pressAlt(Qt::Key_P, dialog->cbPodglad);
     QTest::mouseClick(dialog->btnOk, Qt::LeftButton);
@@ -76,8 +66,8 @@ TEST(WybierzDatyAndKontrahenta, TypedPeriodAndTickedBoxesComeBackWithOk)
 TEST(WybierzDatyAndKontrahenta, APeriodEndingBeforeItStartsIsRefusedAndEscCancels)
 {
     const auto dialog = open();
-    retypeDate(dialog->deOd, QStringLiteral("2024-05-02"));
-    retypeDate(dialog->deDo, QStringLiteral("2024-05-01"));
+    DateTyping::retype(dialog->deOd, QStringLiteral("2024-05-02"));
+    DateTyping::retype(dialog->deDo, QStringLiteral("2024-05-01"));
     scriptedMessages().expect();
     QTest::mouseClick(dialog->btnOk, Qt::LeftButton);
     ASSERT_EQ(scriptedMessages().shown().size(), 1u);
