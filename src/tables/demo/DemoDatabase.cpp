@@ -20,7 +20,7 @@ namespace {
 
 // Written into the marker; a demo database of another edition (an older
 // schema, other demo data) is made again.
-constexpr char Edition[] = "3: carriers' invoices paid and unpaid";
+constexpr char Edition[] = "4: stamp fees on invoices, partners report";
 
 bool currentEdition(const QString &marker)
 {
