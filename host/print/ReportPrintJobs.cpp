@@ -2,35 +2,16 @@
 
 #include "Format.h"
 #include "IssuedInvoices.h"
+#include "JobArguments.h"
 #include "PdfBook.h"
 #include "TfrmRepWspolnicy.h"
 #include "TfrmZestawienieRachunkow.h"
 
-#include <stdexcept>
+#include <tuple>
+
+using namespace JobArguments;
 
 namespace {
-
-[[noreturn]] void refuse(const QString &text)
-{
-    throw std::invalid_argument(text.toStdString());
-}
-
-QDate dayOf(const QString &argument)
-{
-    const QDate day = QDate::fromString(argument, Qt::ISODate);
-    if (!day.isValid() || argument.size() != 10)
-        refuse(QStringLiteral("Data musi mieć postać rrrr-mm-dd: %1").arg(argument));
-    return day;
-}
-
-std::pair<QDate, QDate> periodOf(const QStringList &arguments)
-{
-    const QDate from = dayOf(arguments.at(0));
-    const QDate to = dayOf(arguments.at(1));
-    if (from > to)
-        refuse(QStringLiteral("Początek okresu jest późniejszy niż jego koniec."));
-    return {from, to};
-}
 
 void refuseBoth(const QStringList &arguments, const char *one, const char *other)
 {
@@ -44,7 +25,7 @@ void refuseBoth(const QStringList &arguments, const char *one, const char *other
 void ReportPrintJobs::issuedInvoices(PdfBook &book, Connection &connection,
                                      const QStringList &arguments)
 {
-    const auto [from, to] = periodOf(arguments);
+    const auto [from, to] = periodOf(arguments.at(0), arguments.at(1));
     IssuedInvoices invoices(connection, from, to, arguments.contains(QStringLiteral("--own")));
     invoices.read();
     const std::vector<TPozycjaZestawienia> records = invoices.build();
@@ -60,15 +41,17 @@ void ReportPrintJobs::partners(PdfBook &book, Connection &connection,
     refuseBoth(arguments, "--domestic", "--foreign");
     refuseBoth(arguments, "--own", "--others");
     PartnersSelection selection;
-    std::tie(selection.from, selection.to) = periodOf(arguments);
+    std::tie(selection.from, selection.to) = periodOf(arguments.at(0), arguments.at(1));
     selection.fromText = Format::date(selection.from);
     selection.toText = Format::date(selection.to);
-    selection.region = arguments.contains(QStringLiteral("--domestic")) ? PartnersSelection::Domestic
-        : arguments.contains(QStringLiteral("--foreign"))              ? PartnersSelection::Foreign
-                                                                       : PartnersSelection::AllRegions;
-    selection.executor = arguments.contains(QStringLiteral("--own")) ? PartnersSelection::OwnCompany
-        : arguments.contains(QStringLiteral("--others"))             ? PartnersSelection::OtherCarriers
-                                                                     : PartnersSelection::AnyExecutor;
+    if (arguments.contains(QStringLiteral("--domestic")))
+        selection.region = PartnersSelection::Domestic;
+    else if (arguments.contains(QStringLiteral("--foreign")))
+        selection.region = PartnersSelection::Foreign;
+    if (arguments.contains(QStringLiteral("--own")))
+        selection.executor = PartnersSelection::OwnCompany;
+    else if (arguments.contains(QStringLiteral("--others")))
+        selection.executor = PartnersSelection::OtherCarriers;
     // Without a partner the report lists them all, as "Pokaż wszystkie"
     // with none chosen does.
     selection.showAll = true;

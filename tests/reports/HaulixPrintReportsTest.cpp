@@ -1,31 +1,9 @@
 // The statement of issued invoices and the partners report out of haulix-print.
 #include "PopplerText.h"
+#include "ProgramRun.h"
 #include "ReportsFixture.h"
 
-#include <QProcess>
 #include <QTemporaryDir>
-
-namespace {
-
-struct PrintRun
-{
-    int exitCode = -1;
-    QString errors;
-};
-
-PrintRun runPrint(const QStringList &arguments)
-{
-    QProcess program;
-    QProcessEnvironment env = QProcessEnvironment::systemEnvironment();
-    env.remove(QStringLiteral("DISPLAY"));
-    env.remove(QStringLiteral("QT_QPA_PLATFORM"));
-    program.setProcessEnvironment(env);
-    program.start(QStringLiteral(HAULIX_PRINT_PATH), arguments);
-    EXPECT_TRUE(program.waitForFinished(60000)) << "haulix-print did not end";
-    return {program.exitCode(), QString::fromUtf8(program.readAllStandardError())};
-}
-
-} // namespace
 
 class HaulixPrintReports : public ReportsFixture
 {
@@ -41,10 +19,11 @@ protected:
                   .cost = 300.0, .abroad = true, .partner = 2});
     }
 
-    PrintRun print(const QString &name, QStringList arguments)
+    ProgramRun print(const QString &name, QStringList arguments)
     {
-        return runPrint(QStringList{QStringLiteral("--db"), db.path(), name} << arguments
-                        << file);
+        return ProgramRun::of(QStringLiteral(HAULIX_PRINT_PATH),
+                              QStringList{QStringLiteral("--db"), db.path(), name} << arguments
+                                                                                  << file);
     }
 
     QTemporaryDir dir;
@@ -53,7 +32,7 @@ protected:
 
 TEST_F(HaulixPrintReports, TheStatementOfOtherOrOwnCarriersInvoices)
 {
-    PrintRun run = print(QStringLiteral("invoices-statement"), {"2026-03-01", "2026-03-31"});
+    ProgramRun run = print(QStringLiteral("invoices-statement"), {"2026-03-01", "2026-03-31"});
     ASSERT_EQ(run.exitCode, 0) << run.errors.toStdString();
     QString text = Poppler::text(file);
     EXPECT_TRUE(text.contains(QStringLiteral("(WYKONAWCA OBCY)"))) << text.toStdString();
@@ -69,7 +48,7 @@ TEST_F(HaulixPrintReports, TheStatementOfOtherOrOwnCarriersInvoices)
 
 TEST_F(HaulixPrintReports, ThePartnersReportByPartnerRegionAndCarrier)
 {
-    PrintRun run = print(QStringLiteral("partners"),
+    ProgramRun run = print(QStringLiteral("partners"),
                          {"2026-03-01", "2026-03-31", "--partner", "2", "--foreign", "--others"});
     ASSERT_EQ(run.exitCode, 0) << run.errors.toStdString();
     EXPECT_EQ(Poppler::info(file, QStringLiteral("size"), 1),

@@ -8,16 +8,6 @@
 class PartnersSelectionTest : public ReportsFixture
 {
 protected:
-    static PartnersSelection march()
-    {
-        PartnersSelection s;
-        s.from = QDate(2026, 3, 1);
-        s.to = QDate(2026, 3, 31);
-        s.fromText = QStringLiteral("2026-03-01");
-        s.toText = QStringLiteral("2026-03-31");
-        return s;
-    }
-
     // The order numbers the selection lists, in its order.
     QList<int> numbers(const PartnersSelection &selection)
     {

@@ -37,13 +37,10 @@ void click(QAbstractButton *button)
 class RepWspolnicy : public ReportsFixture
 {
 protected:
+    // March, every partner.
     static PartnersSelection march()
     {
-        PartnersSelection s;
-        s.from = QDate(2026, 3, 1);
-        s.to = QDate(2026, 3, 31);
-        s.fromText = QStringLiteral("2026-03-01");
-        s.toText = QStringLiteral("2026-03-31");
+        PartnersSelection s = ReportsFixture::march();
         s.showAll = true;
         return s;
     }

@@ -81,3 +81,13 @@ int ReportsFixture::addOrder(const Order &order)
     EXPECT_TRUE(record.Insert());
     return record.GetMaxId();
 }
+
+PartnersSelection ReportsFixture::march()
+{
+    PartnersSelection s;
+    s.from = QDate(2026, 3, 1);
+    s.to = QDate(2026, 3, 31);
+    s.fromText = QStringLiteral("2026-03-01");
+    s.toText = QStringLiteral("2026-03-31");
+    return s;
+}

@@ -1,5 +1,6 @@
 #pragma once
 
+#include "PartnersSelection.h"
 #include "SessionFixture.h"
 
 #include <QDate>
@@ -51,6 +52,9 @@ protected:
         int client = 0;
     };
     int addOrder(const Order &order);
+
+    // The partners of March 2026, all regions, any carrier, none chosen.
+    static PartnersSelection march();
 
     int own = 0;
     int client = 0;      // "KLIENT A"
