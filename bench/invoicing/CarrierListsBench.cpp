@@ -13,6 +13,7 @@
 #include "OffscreenProgram.h"
 #include "PdfBook.h"
 #include "PrintJobs.h"
+#include "RawRows.h"
 #include "RoadCardItems.h"
 #include "SeededDatabase.h"
 #include "Statement.h"
@@ -74,16 +75,6 @@ void compare(const char *name, int pairs, const std::function<void()> &floor,
     std::printf("%-34s %8.1f ms  %6.1fx the raw fetch (%.1f - %.1f)\n", name, median(times),
                 median(ratios), *low, *high);
     std::fflush(stdout);
-}
-
-int rawRows(Statement &st)
-{
-    st.setUniDirectional(true);
-    st.exec();
-    int rows = 0;
-    for (; !st.atEnd(); st.next())
-        ++rows;
-    return rows;
 }
 
 void addCards(Connection &connection, int count)

@@ -1,28 +1,18 @@
 #include "CarrierPrintJobs.h"
 
 #include "CarrierInvoiceList.h"
+#include "JobArguments.h"
 #include "PdfBook.h"
 #include "TFrmNiezaplaconeList.h"
 #include "TFrmNiezaplaconePrzewoz.h"
 
-#include <stdexcept>
+#include <tuple>
+
+using namespace JobArguments;
 
 namespace {
 
 const QString CarrierOption = QStringLiteral("--carrier");
-
-[[noreturn]] void refuse(const QString &text)
-{
-    throw std::invalid_argument(text.toStdString());
-}
-
-QDate dayOf(const QString &argument)
-{
-    const QDate day = QDate::fromString(argument, Qt::ISODate);
-    if (!day.isValid() || argument.size() != 10)
-        refuse(QStringLiteral("Data musi mieć postać rrrr-mm-dd: %1").arg(argument));
-    return day;
-}
 
 int carrierOf(const QStringList &arguments)
 {
@@ -44,12 +34,8 @@ void print(PdfBook &book, Connection &connection, CarrierInvoiceList::Mode mode,
     CarrierInvoiceList list;
     list.mode = mode;
     list.carrier = carrierOf(arguments);
-    if (mode != CarrierInvoiceList::Unpaid) {
-        list.from = dayOf(arguments.at(0));
-        list.to = dayOf(arguments.at(1));
-        if (list.from > list.to)
-            refuse(QStringLiteral("Początek okresu jest późniejszy niż jego koniec."));
-    }
+    if (mode != CarrierInvoiceList::Unpaid)
+        std::tie(list.from, list.to) = periodOf(arguments.at(0), arguments.at(1));
     TFrmNiezaplaconePrzewoz printout(connection, list);
     book.add(printout.qrNiezaplacone());
 }

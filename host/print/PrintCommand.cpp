@@ -16,14 +16,20 @@ std::optional<PrintCommand> PrintCommand::parse(const QStringList &arguments, QS
         return std::nullopt;
     }
     QStringList options;
+    QStringList flags;
+    bool valueDue = false;
     for (const QString &argument : arguments.mid(3, arguments.size() - 4)) {
         // An option's value follows it.
-        if (options.size() % 2 == 1 || command.job->options.contains(argument))
+        if (valueDue || command.job->options.contains(argument)) {
             options << argument;
-        else
+            valueDue = !valueDue;
+        } else if (command.job->flags.contains(argument)) {
+            flags << argument;
+        } else {
             command.arguments << argument;
+        }
     }
-    if (options.size() % 2 == 1) {
+    if (valueDue) {
         error = QStringLiteral("Opcja %1 wymaga wartości.\n").arg(options.last()) + usage();
         return std::nullopt;
     }
@@ -35,7 +41,7 @@ std::optional<PrintCommand> PrintCommand::parse(const QStringList &arguments, QS
             + usage();
         return std::nullopt;
     }
-    command.arguments << options;
+    command.arguments << options << flags;
     command.file = arguments.last();
     return command;
 }
@@ -45,8 +51,11 @@ QString PrintCommand::usage()
     QString text = QStringLiteral("Użycie: haulix-print --db BAZA WYDRUK [ARGUMENTY] PLIK.pdf\n"
                                   "Wydruki:\n");
     for (const PrintJobs::Job &job : PrintJobs::all()) {
-        text += QStringLiteral("  %1 %2").arg(job.name, job.arguments).leftJustified(40)
-            + job.description + u'\n';
+        const QString head = QStringLiteral("  %1 %2").arg(job.name, job.arguments);
+        // A long head gets its description on a line of its own.
+        text += head.size() < 40 ? head.leftJustified(40)
+                                 : head + u'\n' + QString(40, u' ');
+        text += job.description + u'\n';
     }
     return text;
 }

@@ -2,6 +2,7 @@
 
 #include "CarrierPrintJobs.h"
 #include "PdfBook.h"
+#include "ReportPrintJobs.h"
 #include "TfrmPrintReport.h"
 #include "TfrmRachunekPL.h"
 #include "TfrmZalacznik.h"
@@ -69,6 +70,15 @@ const std::vector<PrintJobs::Job> &PrintJobs::all()
         {QStringLiteral("carriers-payment"), QString(),
          QStringLiteral("płatność - przewoźnicy: niezapłacone według daty zapłaty"), 0,
          CarrierPrintJobs::payments},
+        {QStringLiteral("invoices-statement"), QStringLiteral("OD DO [--own]"),
+         QStringLiteral("faktury krajowe wystawione od OD do DO (--own: wykonawca własny)"),
+         2, ReportPrintJobs::issuedInvoices, {}, {QStringLiteral("--own")}},
+        {QStringLiteral("partners"),
+         QStringLiteral("OD DO [--partner ID] [--domestic|--foreign] [--own|--others]"),
+         QStringLiteral("zlecenia w podziale na kontrahenta (raport wspólników)"), 2,
+         ReportPrintJobs::partners, {QStringLiteral("--partner")},
+         {QStringLiteral("--domestic"), QStringLiteral("--foreign"), QStringLiteral("--own"),
+          QStringLiteral("--others")}},
     };
     return jobs;
 }

@@ -27,6 +27,9 @@ struct Job
     // command line may give them anywhere after the job's name; the job
     // gets them after its arguments.
     QStringList options = {};
+    // Switches it takes without a value ("--own"), anywhere after its
+    // name; the job gets them after its options.
+    QStringList flags = {};
 };
 
 const std::vector<Job> &all();

@@ -1241,15 +1241,17 @@ LEFT JOIN KRAJE kr ON kr.ID_KRAJU = m.ID_KRAJU;
 
 -- One row per invoiced incoming order for the partners report. An order is
 -- domestic (KRAJ 1) when both route cities lie in the home country, the
--- country of the domestic currency.
+-- country of the domestic currency. Client and carrier are short names, as
+-- in the register, the report comparing the carrier with the company's own
+-- short name; an order without a carrier has an empty one.
 CREATE VIEW VRAPORT_WSPOLNICY (
     ID_ZLECENIA_PRZYCH, FAK_DWYST, KRAJ, PRZEWOZNIK, IDFILTR1, FILTR1, KONTRAHENT, NUMER,
     NRFAKTURY, STAWKA_RAZEM, KOSZTRAZEM, MIASTOOD, MIASTODO)
 AS
 SELECT z.ID_ZLECENIA_PRZYCH, f.DATA_WYSTAWIENIA,
        CASE WHEN mo.IDKRAJU = h.ID_KRAJU AND md.IDKRAJU = h.ID_KRAJU THEN 1 ELSE 0 END,
-       p.NAZWA, z.FILTR1, fp.OPIS, k.NAZWA, z.NUMER, f.NR_KOLEJNY, z.STAWKA_RAZEM,
-       z.KOSZTRAZEM, mo.NAZWA, md.NAZWA
+       COALESCE(p.SKROT, ''), z.FILTR1, fp.OPIS, COALESCE(k.SKROT, ''), z.NUMER, f.NR_KOLEJNY,
+       z.STAWKA_RAZEM, z.KOSZTRAZEM, mo.NAZWA, md.NAZWA
 FROM ZLECENIA_PRZYCH z
 JOIN FAKTURY f ON f.ID_FAKTURY = z.IDFAKTURY
 LEFT JOIN KONTRAHENCI k ON k.ID_KONTRAHENTA = z.IDKONTRAHENTA

@@ -1,29 +1,15 @@
 #include "InvoicingFixture.h"
+#include "ProgramRun.h"
 
 #include <QDir>
 #include <QFile>
-#include <QProcess>
 #include <QTemporaryDir>
 
 namespace {
 
-struct PrintRun
+ProgramRun runPrint(const QStringList &arguments)
 {
-    int exitCode = -1;
-    QString errors;
-};
-
-PrintRun runPrint(const QStringList &arguments)
-{
-    QProcess program;
-    // Whatever display the machine has, the program must not need it.
-    QProcessEnvironment env = QProcessEnvironment::systemEnvironment();
-    env.remove(QStringLiteral("DISPLAY"));
-    env.remove(QStringLiteral("QT_QPA_PLATFORM"));
-    program.setProcessEnvironment(env);
-    program.start(QStringLiteral(HAULIX_PRINT_PATH), arguments);
-    EXPECT_TRUE(program.waitForFinished(60000)) << "haulix-print did not end";
-    return {program.exitCode(), QString::fromUtf8(program.readAllStandardError())};
+    return ProgramRun::of(QStringLiteral(HAULIX_PRINT_PATH), arguments);
 }
 
 } // namespace
@@ -53,7 +39,7 @@ protected:
 TEST_F(HaulixPrintTest, InvoiceWithAttachmentIsOneFileInvoiceFirst)
 {
     const QString file = target(QStringLiteral("faktura.pdf"));
-    const PrintRun run = runPrint({QStringLiteral("--db"), db.path(),
+    const ProgramRun run = runPrint({QStringLiteral("--db"), db.path(),
                                    QStringLiteral("invoice-with-attachment"),
                                    QString::number(invoice), file});
     ASSERT_EQ(run.exitCode, 0) << run.errors.toStdString();
@@ -85,7 +71,7 @@ TEST_F(HaulixPrintTest, EachPrintoutByItsNameWithItsPolishTexts)
                           "Żółte łóżka", "Zażółć gęślą jaźń"}}};
     for (const auto &[name, key, expected] : printouts) {
         const QString file = target(QString::fromLatin1(name) + QStringLiteral(".pdf"));
-        const PrintRun run = runPrint({QStringLiteral("--db"), db.path(), QString::fromLatin1(name),
+        const ProgramRun run = runPrint({QStringLiteral("--db"), db.path(), QString::fromLatin1(name),
                                        QString::number(key), file});
         EXPECT_EQ(run.exitCode, 0) << name << run.errors.toStdString();
         const QString text = Poppler::text(file);
@@ -97,7 +83,7 @@ TEST_F(HaulixPrintTest, EachPrintoutByItsNameWithItsPolishTexts)
 TEST_F(HaulixPrintTest, AnUnknownIdIsOneLineAndLeavesNoFile)
 {
     const QString file = target(QStringLiteral("brak.pdf"));
-    const PrintRun run = runPrint({QStringLiteral("--db"), db.path(), QStringLiteral("invoice"),
+    const ProgramRun run = runPrint({QStringLiteral("--db"), db.path(), QStringLiteral("invoice"),
                                    QStringLiteral("9999"), file});
     EXPECT_EQ(run.exitCode, 1);
     EXPECT_EQ(run.errors, QStringLiteral("Nie ma faktury o identyfikatorze 9999.\n"));
@@ -113,7 +99,7 @@ TEST_F(HaulixPrintTest, AFailureLeavesAnEarlierFileAsItWas)
         ASSERT_TRUE(earlier.open(QIODevice::WriteOnly));
         earlier.write("poprzedni");
     }
-    const PrintRun run = runPrint({QStringLiteral("--db"), db.path(), QStringLiteral("order"),
+    const ProgramRun run = runPrint({QStringLiteral("--db"), db.path(), QStringLiteral("order"),
                                    QStringLiteral("9999"), file});
     EXPECT_EQ(run.exitCode, 1);
     EXPECT_EQ(run.errors, QStringLiteral("Nie ma zlecenia o identyfikatorze 9999.\n"));
@@ -125,7 +111,7 @@ TEST_F(HaulixPrintTest, AFailureLeavesAnEarlierFileAsItWas)
 TEST_F(HaulixPrintTest, AnUnreadableDatabaseOrFileIsOneLine)
 {
     const QString file = target(QStringLiteral("faktura.pdf"));
-    PrintRun run = runPrint({QStringLiteral("--db"), target(QStringLiteral("nie-ma.fdb")),
+    ProgramRun run = runPrint({QStringLiteral("--db"), target(QStringLiteral("nie-ma.fdb")),
                              QStringLiteral("invoice"), QString::number(invoice), file});
     EXPECT_EQ(run.exitCode, 1);
     EXPECT_EQ(run.errors.count(u'\n'), 1) << run.errors.toStdString();
@@ -155,7 +141,7 @@ TEST_F(HaulixPrintTest, AnUnreadableDatabaseOrFileIsOneLine)
 
 TEST_F(HaulixPrintTest, AWrongCommandLineShowsTheUsage)
 {
-    PrintRun run = runPrint({QStringLiteral("--db"), db.path(), QStringLiteral("paragon"),
+    ProgramRun run = runPrint({QStringLiteral("--db"), db.path(), QStringLiteral("paragon"),
                              QStringLiteral("1"), target(QStringLiteral("x.pdf"))});
     EXPECT_EQ(run.exitCode, 2);
     EXPECT_TRUE(run.errors.startsWith(QStringLiteral("Nieznany wydruk: paragon.")));
@@ -188,7 +174,7 @@ TEST_F(HaulixPrintTest, TheCarriersListsWithTheirPeriodAndCarrier)
     });
     const auto print = [this](const QStringList &job) {
         const QString file = target(job.first() + QStringLiteral(".pdf"));
-        const PrintRun run
+        const ProgramRun run
             = runPrint(QStringList{QStringLiteral("--db"), db.path()} + job + QStringList{file});
         EXPECT_EQ(run.exitCode, 0) << run.errors.toStdString();
         return run.exitCode == 0 ? Poppler::text(file) : QString();
@@ -223,7 +209,7 @@ TEST_F(HaulixPrintTest, TheCarriersListsWithTheirPeriodAndCarrier)
                        QStringLiteral("ŻWIREK")},
            QStringLiteral(
                "Identyfikator przewoźnika musi być dodatnią liczbą całkowitą: ŻWIREK")}}) {
-        const PrintRun run = runPrint(QStringList{QStringLiteral("--db"), db.path()} + arguments
+        const ProgramRun run = runPrint(QStringList{QStringLiteral("--db"), db.path()} + arguments
                                       + QStringList{target(QStringLiteral("zle.pdf"))});
         EXPECT_EQ(run.exitCode, 2) << arguments.join(u' ').toStdString();
         EXPECT_TRUE(run.errors.startsWith(error)) << run.errors.toStdString();

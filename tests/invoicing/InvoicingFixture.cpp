@@ -1,7 +1,7 @@
 #include "InvoicingFixture.h"
 
+#include "ReportTexts.h"
 #include "TableObjects.h"
-
 
 void InvoicingFixture::SetUp()
 {
@@ -126,24 +126,13 @@ void InvoicingFixture::addGoods(int orderKey, const QString &name, double quanti
 
 QStringList InvoicingFixture::printed(const std::vector<ReportPage> &pages)
 {
-    QStringList texts;
-    for (const ReportPage &page : pages) {
-        for (const QString &text : page.texts()) {
-            if (!text.isEmpty() && !text.startsWith(QStringLiteral("....")))
-                texts << text;
-        }
-    }
+    // Dotted signature lines are left out too.
+    QStringList texts = ReportTexts::printed(pages);
+    texts.removeIf([](const QString &text) { return text.startsWith(QStringLiteral("....")); });
     return texts;
 }
 
 bool InvoicingFixture::inOrder(const QStringList &texts, const QStringList &expected)
 {
-    qsizetype from = 0;
-    for (const QString &text : expected) {
-        from = texts.indexOf(text, from);
-        if (from < 0)
-            return false;
-        ++from;
-    }
-    return true;
+    return ReportTexts::inOrder(texts, expected);
 }

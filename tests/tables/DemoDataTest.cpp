@@ -53,15 +53,16 @@ TEST(DemoData, SeedsAConsistentCompany)
               0);
     EXPECT_EQ(db.count(QStringLiteral("MIEJSCA_ZLEC")), 2 * db.count(QStringLiteral("ZLECENIA_PRZYCH")));
 
-    // Invoiced orders are on their invoice, one position each, and the
-    // invoice's net is the sum of its orders.
+    // Invoiced orders are on their invoice, one position each (and one more
+    // for a stamp fee), and the invoice's net is the sum of its orders.
     EXPECT_GT(db.count(QStringLiteral("ZLECENIA_PRZYCH"), QStringLiteral("IDFAKTURY <> 0")), 0);
     EXPECT_EQ(db.count(QStringLiteral("ZLECENIA_PRZYCH z"),
                        QStringLiteral("IDFAKTURY <> 0 AND NOT EXISTS (SELECT 1 FROM FAKTURY_POZYCJE p WHERE "
                                       "p.ID_FAKTURY = z.IDFAKTURY AND p.ID_ZLECENIA = z.ID_ZLECENIA_PRZYCH)")),
               0);
     EXPECT_EQ(db.count(QStringLiteral("FAKTURY f"),
-                       QStringLiteral("ABS(f.WARTOSC_NETTO - (SELECT SUM(z.STAWKA_RAZEM) FROM ZLECENIA_PRZYCH z "
+                       QStringLiteral("ABS(f.WARTOSC_NETTO - (SELECT SUM(z.STAWKA_RAZEM + z.OPLATA_SKARBOWA) "
+                                      "FROM ZLECENIA_PRZYCH z "
                                       "WHERE z.IDFAKTURY = f.ID_FAKTURY)) > 0.005")),
               0);
     EXPECT_EQ(db.count(QStringLiteral("ZLECENIA_PRZYCH"), QStringLiteral("IDFAKTURY <> 0 AND DATA > '2026-11-17'")), 0);

@@ -41,3 +41,6 @@ void addSiblingShots(ShotBook &book);
 
 // Road cards, the carrier's invoice and the carriers' invoice lists.
 void addCarrierShots(ShotBook &book);
+
+// The statement of issued invoices and the partners report, with their dialogs.
+void addStatementShots(ShotBook &book);

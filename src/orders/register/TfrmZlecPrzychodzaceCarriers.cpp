@@ -3,6 +3,7 @@
 #include "TfrmZlecPrzychodzace.h"
 
 #include "CarrierInvoice.h"
+#include "IssuedInvoicesStatement.h"
 #include "MessageService.h"
 #include "OrderListColumns.h"
 #include "OrderRoadCard.h"
@@ -15,6 +16,7 @@
 #include "TframeListView.h"
 #include "TfrmFaktPrzew.h"
 #include "TfrmKartaDrogowa.h"
+#include "TfrmRepWspolnicy.h"
 #include "TfrmWydrukiPrzewoz.h"
 
 #include <QAction>
@@ -45,7 +47,14 @@ void TfrmZlecPrzychodzace::buildStatementsMenu()
         const auto list = TfrmRODefault::create<TfrmWydrukiPrzewoz>(this, selectedCarrier(), mode);
         list->showModal();
     };
-    const std::pair<const char *, std::function<void()>> entries[] = {
+    struct Entry
+    {
+        const char *caption;
+        std::function<void()> run;
+        bool visible = true;
+    };
+    const Entry entries[] = {
+        {"Wystawione faktury", [this] { IssuedInvoicesStatement::run(this); }},
         {"Faktury przewożnika niezapłacone", [=] { carrierList(CarrierInvoiceList::Unpaid); }},
         {"Faktury przewoźnika zapłacone", [=] { carrierList(CarrierInvoiceList::Paid); }},
         {"Zestawienie faktur przewoźników", [=] { carrierList(CarrierInvoiceList::Issued); }},
@@ -54,9 +63,15 @@ void TfrmZlecPrzychodzace::buildStatementsMenu()
              if (Connection *database = session().Database)
                  TFrmNiezaplaconeList(*database).Preview();
          }},
+        // Hidden, as it has always been: the partners report has its own
+        // entry point.
+        {"Zlecenia w/g spedytora kraj-zagranica", [this] { TfrmRepWspolnicy::run(this); }, false},
     };
-    for (const auto &[caption, run] : entries)
-        connect(pmZestaw->addAction(QString::fromUtf8(caption)), &QAction::triggered, this, run);
+    for (const Entry &entry : entries) {
+        QAction *action = pmZestaw->addAction(QString::fromUtf8(entry.caption));
+        action->setVisible(entry.visible);
+        connect(action, &QAction::triggered, this, entry.run);
+    }
 }
 
 void TfrmZlecPrzychodzace::acZestawienieExecute()

@@ -12,6 +12,11 @@ using namespace DemoCatalog;
 
 namespace {
 
+// The stamp fee some invoices charge, and the VAT rate it goes under
+// ("zw.", the third rate the seeder writes).
+constexpr double StampFee = 17.0;
+constexpr int ExemptVat = 3;
+
 double cents(double amount)
 {
     return std::floor(amount * 100.0 + 0.5) / 100.0;
@@ -234,10 +239,18 @@ void DemoSeeder::planInvoices(std::vector<PlannedOrder> &orders)
 
     TFakturyObj faktura(m_connection);
     std::map<std::pair<int, int>, int> numberInMonth;
+    int stampFees = 0;
     for (const Invoice &invoice : invoices) {
+        // Every sixth invoice charges a stamp fee with its first order, on
+        // a line of its own (service kind 10).
+        if (stampFees++ % 6 == 0)
+            orders[invoice.orders.front()].order.OPLATA_SKARBOWA = StampFee;
         double net = 0.0;
-        for (std::size_t i : invoice.orders)
+        double fees = 0.0;
+        for (std::size_t i : invoice.orders) {
             net += orders[i].order.STAWKA_RAZEM;
+            fees += orders[i].order.OPLATA_SKARBOWA;
+        }
         const int number = ++numberInMonth[{invoice.issued.year(), invoice.issued.month()}];
         faktura.NR_KOLEJNY = number;
         faktura.NUMER_PELNY = QStringLiteral("%1/%2/%3").arg(number, 3, 10, QLatin1Char('0'))
@@ -256,8 +269,8 @@ void DemoSeeder::planInvoices(std::vector<PlannedOrder> &orders)
         faktura.ID_DOKUMENTU = 1;
         faktura.ID_REJESTR = 2;
         faktura.IDWALUTA = DomesticCurrency;
-        faktura.WARTOSC_NETTO = cents(net);
-        faktura.WARTOSC_BRUTTO = cents(net * 1.23);
+        faktura.WARTOSC_NETTO = cents(net + fees);
+        faktura.WARTOSC_BRUTTO = cents(net * 1.23) + fees;
         faktura.ZAPLACONA = invoice.issued.addDays(30) < m_options.today ? 1 : 0;
         faktura.KWOTA_ZAPLACONA = faktura.ZAPLACONA ? faktura.WARTOSC_BRUTTO : 0.0;
         faktura.Insert();
@@ -326,6 +339,23 @@ void DemoSeeder::insertInvoicePositions(const std::vector<PlannedOrder> &orders)
         position.KWOTA = position.WARTOSC_NETTO;
         position.ID_ZLECENIA = p.key;
         positions.insert(position);
+        if (p.order.OPLATA_SKARBOWA > 0.0) {
+            TFaktury_pozycjeObj fee(m_connection);
+            fee.ID_FAKTURY = p.order.IDFAKTURY;
+            fee.TRESC = QStringLiteral("Opłata skarbowa, zlecenie nr %1")
+                            .arg(p.order.NUMER, 8, 10, QLatin1Char('0'));
+            fee.ILOSC = 1.0;
+            fee.JM = QStringLiteral("szt.");
+            fee.CENA_NETTO = p.order.OPLATA_SKARBOWA;
+            fee.ID_VAT = ExemptVat;
+            fee.ID_WALUTY = DomesticCurrency;
+            fee.RODZAJ_USLUGI = 10;
+            fee.WARTOSC_NETTO = fee.CENA_NETTO;
+            fee.WARTOSC_BRUTTO = fee.CENA_NETTO;
+            fee.KWOTA = fee.CENA_NETTO;
+            fee.ID_ZLECENIA = p.key;
+            positions.insert(fee);
+        }
     }
 }
 

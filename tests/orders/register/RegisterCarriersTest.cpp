@@ -215,10 +215,12 @@ TEST_F(RegisterCarriers, TheStatementsMenuOpensTheCarriersListsForTheSelectedCar
     QStringList captions;
     for (const QAction *entry : form->pmZestaw->actions())
         captions << entry->text();
-    EXPECT_EQ(captions, (QStringList{QStringLiteral("Faktury przewożnika niezapłacone"),
+    EXPECT_EQ(captions, (QStringList{QStringLiteral("Wystawione faktury"),
+                                     QStringLiteral("Faktury przewożnika niezapłacone"),
                                      QStringLiteral("Faktury przewoźnika zapłacone"),
                                      QStringLiteral("Zestawienie faktur przewoźników"),
-                                     QStringLiteral("Płatność - przewoźnicy")}));
+                                     QStringLiteral("Płatność - przewoźnicy"),
+                                     QStringLiteral("Zlecenia w/g spedytora kraj-zagranica")}));
     QTest::mouseClick(form->btnZest, Qt::LeftButton);
     EXPECT_TRUE(form->pmZestaw->isVisible());
     form->pmZestaw->hide();
@@ -234,13 +236,13 @@ TEST_F(RegisterCarriers, TheStatementsMenuOpensTheCarriersListsForTheSelectedCar
                 QTest::mouseClick(dialog.btnCancel, Qt::LeftButton);
                 return dialog.result();
             });
-        form->pmZestaw->actions().at(i)->trigger();
+        form->pmZestaw->actions().at(i + 1)->trigger();
     }
     EXPECT_TRUE(scriptedModalRunner().allRun());
 
     QTemporaryDir dir;
     ReportOutputs::Scoped<PdfFileReportOutput> files{dir.path()};
-    form->pmZestaw->actions().at(3)->trigger();
+    form->pmZestaw->actions().at(4)->trigger();
     ASSERT_EQ(files->deliveries().size(), 1u);
     EXPECT_EQ(files->deliveries()[0].kind, PdfFileReportOutput::Kind::Preview);
     EXPECT_EQ(files->deliveries()[0].title, " Faktury przewoźników niezapłacone ");

@@ -1,0 +1,18 @@
+#pragma once
+
+#include <QDate>
+#include <QString>
+
+#include <utility>
+
+// How the print jobs read their arguments. A malformed one throws
+// std::invalid_argument with a Polish sentence.
+namespace JobArguments {
+
+[[noreturn]] void refuse(const QString &text);
+// A day written yyyy-MM-dd.
+QDate dayOf(const QString &argument);
+// A period of two such days, the first not after the second.
+std::pair<QDate, QDate> periodOf(const QString &from, const QString &to);
+
+} // namespace JobArguments
