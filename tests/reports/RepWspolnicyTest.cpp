@@ -1,15 +1,15 @@
 // The partners report: its selection dialog and its pages.
-#include "Typing.h"
 #include "PdfFileReportOutput.h"
-#include "ReportTexts.h"
 #include "ReportsFixture.h"
+#include "ReportTexts.h"
 #include "ScriptedModalRunner.h"
 #include "TBitBtn.h"
 #include "TDateEdit.h"
-#include "TRadioGroup.h"
 #include "TestData.h"
 #include "TfrmRepWspolnicy.h"
 #include "TfrmWyborWspolnika.h"
+#include "TRadioGroup.h"
+#include "Typing.h"
 
 #include <QCheckBox>
 #include <QComboBox>
