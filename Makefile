@@ -2,7 +2,7 @@
 BUILD ?= build
 JOBS ?= $(shell nproc)
 
-.PHONY: setup build run test bench clean
+.PHONY: setup build run test bench package clean
 
 setup:
 	@bash scripts/setup.sh
@@ -23,6 +23,10 @@ bench: build
 	$(BUILD)/bin/haulix-bench-printouts
 	$(BUILD)/bin/haulix-bench-carriers
 	$(BUILD)/bin/haulix-bench-statements
+
+# haulix_<version>_amd64.deb in the build directory, from the programs built there.
+package: build
+	cmake --build $(BUILD) --target package
 
 clean:
 	rm -rf $(BUILD)

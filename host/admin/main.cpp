@@ -5,12 +5,19 @@
 //   haulix-admin summary PATH              what a database holds
 //   haulix-admin demo                      the demo database in the user's data
 //                                          directory, created and seeded on first use
+//   haulix-admin backup DB FILE.fbk        a copy through gbak, while others work
+//   haulix-admin restore FILE.fbk NEWDB    a database from a copy, never over another
+//   haulix-admin server-setup PATH         a database on a Firebird server for the
+//                                          workstations, with a user of their own
 
+#include "CommandArguments.h"
 #include "Connection.h"
+#include "DatabaseBackup.h"
 #include "DbError.h"
 #include "DemoDatabase.h"
 #include "DemoSeeder.h"
 #include "Schema.h"
+#include "ServerSetup.h"
 
 #include <QCoreApplication>
 #include <QElapsedTimer>
@@ -18,6 +25,7 @@
 #include <QTextStream>
 
 #include <cstdio>
+#include <functional>
 
 namespace {
 
@@ -39,7 +47,13 @@ int usage()
              "  haulix-admin create ŚCIEŻKA\n"
              "  haulix-admin seed ŚCIEŻKA [--orders N]\n"
              "  haulix-admin summary ŚCIEŻKA\n"
-             "  haulix-admin demo\n";
+             "  haulix-admin demo\n"
+             "  haulix-admin backup BAZA PLIK.fbk [--login PLIK]\n"
+             "  haulix-admin restore PLIK.fbk NOWA_BAZA [--login PLIK]\n"
+             "  haulix-admin server-setup ŚCIEŻKA [--from BAZA] [--server HOST[/PORT]]\n"
+             "                            [--admin PLIK] [--login PLIK]\n"
+             "BAZA to plik albo host[/port]:ścieżka na serwerze Firebird; --login to plik\n"
+             "z ISC_USER i ISC_PASSWORD (tylko dla właściciela, chmod 600).\n";
     err().flush();
     return 2;
 }
@@ -90,6 +104,75 @@ int seed(const QString &path, int orders, const QString &ordersArgument)
     return 0;
 }
 
+// The login to a server, from --login or the workstation's own file; none
+// for a database file.
+DatabaseBackup backupFor(const QString &database, const CommandArguments &arguments)
+{
+    if (!Connection::isServerTarget(database))
+        return DatabaseBackup(std::nullopt, QString());
+    const QString file = arguments.option(QStringLiteral("login"),
+                                          FirebirdLogin::workstationFile());
+    return DatabaseBackup(FirebirdLogin::read(file), file);
+}
+
+// Runs the work and says what was done and how long it took.
+int timed(const std::function<void()> &work, const QString &done)
+{
+    QElapsedTimer timer;
+    timer.start();
+    work();
+    out() << done.arg(timer.elapsed() / 1000.0, 0, 'f', 1) << '\n';
+    return 0;
+}
+
+int backup(const CommandArguments &arguments)
+{
+    const QString database = arguments.positional().at(0);
+    const QString file = arguments.positional().at(1);
+    return timed([&] { backupFor(database, arguments).backup(database, file); },
+                 QStringLiteral("Kopia bazy %1 zapisana w %2 (%3 s).").arg(database, file));
+}
+
+int restore(const CommandArguments &arguments)
+{
+    const QString file = arguments.positional().at(0);
+    const QString database = arguments.positional().at(1);
+    return timed([&] { backupFor(database, arguments).restore(file, database); },
+                 QStringLiteral("Baza %1 odtworzona z kopii %2 (%3 s).").arg(database, file));
+}
+
+int serverSetup(const CommandArguments &arguments)
+{
+    ServerSetup::Options options;
+    options.path = arguments.positional().at(0);
+    options.from = arguments.option(QStringLiteral("from"));
+    options.server = arguments.option(QStringLiteral("server"), options.server);
+    options.adminFile = arguments.option(QStringLiteral("admin"), options.adminFile);
+    options.loginFile = arguments.option(QStringLiteral("login"), options.loginFile);
+    for (const QString &line : ServerSetup(options).run())
+        out() << line << '\n';
+    return 0;
+}
+
+struct Command
+{
+    const char *name;
+    int positional;
+    QStringList options;
+    int (*run)(const CommandArguments &);
+};
+
+// The commands that take options; their arguments are checked before
+// anything is touched.
+const Command OptionCommands[] = {
+    {"backup", 2, {QStringLiteral("login")}, backup},
+    {"restore", 2, {QStringLiteral("login")}, restore},
+    {"server-setup", 1,
+     {QStringLiteral("from"), QStringLiteral("server"), QStringLiteral("admin"),
+      QStringLiteral("login")},
+     serverSetup},
+};
+
 } // namespace
 
 int main(int argc, char **argv)
@@ -124,6 +207,18 @@ int main(int argc, char **argv)
         if (command == QLatin1String("summary") && args.size() == 2) {
             printSummary(args[1]);
             return 0;
+        }
+        for (const Command &known : OptionCommands) {
+            if (command != QLatin1String(known.name))
+                continue;
+            QString error;
+            const std::optional<CommandArguments> arguments
+                = CommandArguments::parse(args.mid(1), known.positional, known.options, error);
+            if (!arguments) {
+                err() << error << '\n';
+                return usage();
+            }
+            return known.run(*arguments);
         }
         if (command == QLatin1String("demo") && args.size() == 1) {
             const QString path = DemoDatabase::ensure([](const QString &message) {

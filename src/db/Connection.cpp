@@ -2,6 +2,7 @@
 
 #include "DbError.h"
 #include "FirebirdEnvironment.h"
+#include "FirebirdLogin.h"
 
 #include <QAtomicInteger>
 #include <QFileInfo>
@@ -25,6 +26,22 @@ QString statusText(const ISC_STATUS *status)
     while (fb_interpret(buffer, sizeof buffer, &cursor))
         parts << QString::fromLocal8Bit(buffer);
     return parts.join(QStringLiteral(" - "));
+}
+
+void addParameter(QByteArray &dpb, char item, const QByteArray &value)
+{
+    dpb.append(item);
+    dpb.append(char(value.size()));
+    dpb.append(value);
+}
+
+QByteArray loginParameters(const QString &user, const QString &password)
+{
+    QByteArray dpb;
+    dpb.append(char(isc_dpb_version1));
+    addParameter(dpb, char(isc_dpb_user_name), user.toUtf8());
+    addParameter(dpb, char(isc_dpb_password), password.toUtf8());
+    return dpb;
 }
 
 } // namespace
@@ -53,8 +70,17 @@ void Connection::open(const QString &target, const QString &user, const QString 
     if (!db.isValid())
         throw DbError(QStringLiteral("Brak sterownika bazy danych QIBASE (pakiet libqt6sql6-ibase)."));
     db.setDatabaseName(target);
-    db.setUserName(user);
-    db.setPassword(password);
+    if (!user.isEmpty()) {
+        db.setUserName(user);
+        db.setPassword(password);
+    } else if (isServerTarget(target)) {
+        const FirebirdLogin login = FirebirdLogin::read(FirebirdLogin::workstationFile());
+        db.setUserName(login.user);
+        db.setPassword(login.password);
+    } else {
+        db.setUserName(QStringLiteral("SYSDBA"));
+        db.setPassword(QStringLiteral("masterkey"));
+    }
     db.setConnectOptions(QStringLiteral("ISC_DPB_LC_CTYPE=UTF8"));
     if (!isServerTarget(target) && !QFileInfo::exists(target))
         throw DbError(QStringLiteral("Nie można otworzyć bazy danych %1: plik nie istnieje.").arg(target));
@@ -117,18 +143,8 @@ void Connection::setForcedWrites(const QString &target, bool on, const QString &
                                  const QString &password)
 {
     FirebirdEnvironment::prepare();
-    const QByteArray name = user.toUtf8();
-    const QByteArray secret = password.toUtf8();
-    QByteArray dpb;
-    dpb.append(char(isc_dpb_version1));
-    const auto add = [&dpb](char item, const QByteArray &value) {
-        dpb.append(item);
-        dpb.append(char(value.size()));
-        dpb.append(value);
-    };
-    add(char(isc_dpb_user_name), name);
-    add(char(isc_dpb_password), secret);
-    add(char(isc_dpb_force_write), QByteArray(1, on ? 1 : 0));
+    QByteArray dpb = loginParameters(user, password);
+    addParameter(dpb, char(isc_dpb_force_write), QByteArray(1, on ? 1 : 0));
 
     const QByteArray path = target.toUtf8();
     ISC_STATUS_ARRAY status = {};
@@ -139,4 +155,22 @@ void Connection::setForcedWrites(const QString &target, bool on, const QString &
                           .arg(target, statusText(status)));
     }
     isc_detach_database(status, &db);
+}
+
+void Connection::dropDatabase(const QString &target, const QString &user,
+                              const QString &password)
+{
+    FirebirdEnvironment::prepare();
+    const QByteArray dpb = loginParameters(user, password);
+    const QByteArray path = target.toUtf8();
+    ISC_STATUS_ARRAY status = {};
+    isc_db_handle db = 0;
+    if (isc_attach_database(status, 0, path.constData(), &db, static_cast<short>(dpb.size()),
+                            dpb.constData())
+        || isc_drop_database(status, &db)) {
+        if (db)
+            isc_detach_database(status, &db);
+        throw DbError(QStringLiteral("Nie można usunąć bazy danych %1: %2")
+                          .arg(target, statusText(status)));
+    }
 }

@@ -15,10 +15,11 @@ public:
     Connection(const Connection &) = delete;
     Connection &operator=(const Connection &) = delete;
 
-    // Throws DbError with the path and the driver's reason.
-    void open(const QString &target,
-              const QString &user = QStringLiteral("SYSDBA"),
-              const QString &password = QStringLiteral("masterkey"));
+    // Throws DbError with the path and the driver's reason. Without a
+    // user, a database on a server is opened with the workstation's login
+    // file (FirebirdLogin::workstationFile()), a file as SYSDBA.
+    void open(const QString &target, const QString &user = QString(),
+              const QString &password = QString());
     void close();
     bool isOpen() const;
 
@@ -41,6 +42,11 @@ public:
     static void setForcedWrites(const QString &target, bool on,
                                 const QString &user = QStringLiteral("SYSDBA"),
                                 const QString &password = QStringLiteral("masterkey"));
+
+    // Removes a database that was made by mistake or not finished; throws
+    // DbError.
+    static void dropDatabase(const QString &target, const QString &user,
+                             const QString &password);
 
 private:
     QString m_name;
