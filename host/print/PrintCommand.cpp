@@ -2,6 +2,8 @@
 
 #include "PrintJobs.h"
 
+#include <algorithm>
+
 std::optional<PrintCommand> PrintCommand::parse(const QStringList &arguments, QString &error)
 {
     if (arguments.size() < 4 || arguments.at(0) != QLatin1String("--db")) {
@@ -44,8 +46,12 @@ QString PrintCommand::usage()
 {
     QString text = QStringLiteral("Użycie: haulix-print --db BAZA WYDRUK [ARGUMENTY] PLIK.pdf\n"
                                   "Wydruki:\n");
+    // The descriptions stand in one column, right of the longest call.
+    qsizetype width = 40;
+    for (const PrintJobs::Job &job : PrintJobs::all())
+        width = std::max(width, job.name.size() + job.arguments.size() + 5);
     for (const PrintJobs::Job &job : PrintJobs::all()) {
-        text += QStringLiteral("  %1 %2").arg(job.name, job.arguments).leftJustified(40)
+        text += QStringLiteral("  %1 %2").arg(job.name, job.arguments).leftJustified(width)
             + job.description + u'\n';
     }
     return text;

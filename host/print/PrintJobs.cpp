@@ -2,6 +2,7 @@
 
 #include "CarrierPrintJobs.h"
 #include "PdfBook.h"
+#include "StatementPrintJobs.h"
 #include "TfrmPrintReport.h"
 #include "TfrmRachunekPL.h"
 #include "TfrmZalacznik.h"
@@ -69,6 +70,21 @@ const std::vector<PrintJobs::Job> &PrintJobs::all()
         {QStringLiteral("carriers-payment"), QString(),
          QStringLiteral("płatność - przewoźnicy: niezapłacone według daty zapłaty"), 0,
          CarrierPrintJobs::payments},
+        {QStringLiteral("statement-clients"), QStringLiteral("OD DO [--client ID]"),
+         QStringLiteral("kwoty dla kontrahenta - przychód, zysk od OD do DO"), 2,
+         StatementPrintJobs::clients, {QStringLiteral("--client")}},
+        {QStringLiteral("statement-carriers"), QStringLiteral("OD DO [--carrier ID]"),
+         QStringLiteral("kwota stawki na przewoźnika - koszt od OD do DO"), 2,
+         StatementPrintJobs::carriers, {QStringLiteral("--carrier")}},
+        {QStringLiteral("statement-user-rates"), QStringLiteral("OD DO [--user ID]"),
+         QStringLiteral("zestawienie stawek na spedytora\\dysponenta od OD do DO"), 2,
+         StatementPrintJobs::userRates, {QStringLiteral("--user")}},
+        {QStringLiteral("statement-user-invoices"), QStringLiteral("OD DO [--user ID]"),
+         QStringLiteral("zestawienie faktur na spedytora\\dysponenta od OD do DO"), 2,
+         StatementPrintJobs::userInvoices, {QStringLiteral("--user")}},
+        {QStringLiteral("statement-user-carrier-invoices"), QStringLiteral("OD DO [--user ID]"),
+         QStringLiteral("zestawienie faktur obcych na spedytora\\dysponenta od OD do DO"), 2,
+         StatementPrintJobs::userCarrierInvoices, {QStringLiteral("--user")}},
     };
     return jobs;
 }

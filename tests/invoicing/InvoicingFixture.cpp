@@ -1,5 +1,7 @@
 #include "InvoicingFixture.h"
 
+#include "PageTexts.h"
+
 #include "TableObjects.h"
 
 
@@ -126,24 +128,10 @@ void InvoicingFixture::addGoods(int orderKey, const QString &name, double quanti
 
 QStringList InvoicingFixture::printed(const std::vector<ReportPage> &pages)
 {
-    QStringList texts;
-    for (const ReportPage &page : pages) {
-        for (const QString &text : page.texts()) {
-            if (!text.isEmpty() && !text.startsWith(QStringLiteral("....")))
-                texts << text;
-        }
-    }
-    return texts;
+    return PageTexts::printed(pages);
 }
 
 bool InvoicingFixture::inOrder(const QStringList &texts, const QStringList &expected)
 {
-    qsizetype from = 0;
-    for (const QString &text : expected) {
-        from = texts.indexOf(text, from);
-        if (from < 0)
-            return false;
-        ++from;
-    }
-    return true;
+    return PageTexts::inOrder(texts, expected);
 }

@@ -124,6 +124,7 @@ private:
     void acZestawienieExecute();
     // The carrier of the selected order, 0 without a selection.
     int selectedCarrier() const;
+    int selectedClient() const;
 
     // The order editor, modally; returns its modal result.
     int runEditor(int orderKey, int mode);

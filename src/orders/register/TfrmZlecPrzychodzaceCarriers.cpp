@@ -15,6 +15,9 @@
 #include "TframeListView.h"
 #include "TfrmFaktPrzew.h"
 #include "TfrmKartaDrogowa.h"
+#include "TfrmWybierzDatyAndUsera1.h"
+#include "TfrmWyborKontrachentDaty.h"
+#include "TfrmWyborKontrachentDaty1.h"
 #include "TfrmWydrukiPrzewoz.h"
 
 #include <QAction>
@@ -33,6 +36,15 @@ void tellOrderGone(const QString &caption)
     Messages::inform(caption, GoneText, MessageService::Icon::Warning);
 }
 
+// The client or carrier of an order as the view names them; 0 for no order.
+int contractorOf(int orderKey, int TVzlecenia_przychObj::*contractor)
+{
+    Connection *database = session().Database;
+    if (orderKey == 0 || !database)
+        return 0;
+    return TVzlecenia_przychObj(*database).SelectById(orderKey).*contractor;
+}
+
 } // namespace
 
 void TfrmZlecPrzychodzace::buildStatementsMenu()
@@ -45,7 +57,19 @@ void TfrmZlecPrzychodzace::buildStatementsMenu()
         const auto list = TfrmRODefault::create<TfrmWydrukiPrzewoz>(this, selectedCarrier(), mode);
         list->showModal();
     };
+    const auto userStatement = [this](TfrmWybierzDatyAndUsera1::Kind kind) {
+        TfrmRODefault::create<TfrmWybierzDatyAndUsera1>(this, kind, session().UserID)->showModal();
+    };
     const std::pair<const char *, std::function<void()>> entries[] = {
+        {"Kwoty dla kontrahenta - przychód, zysk",
+         [this] {
+             TfrmRODefault::create<TfrmWyborKontrachentDaty>(this, selectedClient())->showModal();
+         }},
+        {"Kwota stawki  na przewoźnika - koszt ",
+         [this] {
+             TfrmRODefault::create<TfrmWyborKontrachentDaty1>(this, selectedCarrier())
+                 ->showModal();
+         }},
         {"Faktury przewożnika niezapłacone", [=] { carrierList(CarrierInvoiceList::Unpaid); }},
         {"Faktury przewoźnika zapłacone", [=] { carrierList(CarrierInvoiceList::Paid); }},
         {"Zestawienie faktur przewoźników", [=] { carrierList(CarrierInvoiceList::Issued); }},
@@ -54,6 +78,12 @@ void TfrmZlecPrzychodzace::buildStatementsMenu()
              if (Connection *database = session().Database)
                  TFrmNiezaplaconeList(*database).Preview();
          }},
+        {"Zestawienie na kraj  stawka/spedytor",
+         [=] { userStatement(TfrmWybierzDatyAndUsera1::Rates); }},
+        {"Zestawienie na kraj faktura/spedytor",
+         [=] { userStatement(TfrmWybierzDatyAndUsera1::Invoices); }},
+        {"Faktura Obca\\zapłata..",
+         [=] { userStatement(TfrmWybierzDatyAndUsera1::CarrierInvoices); }},
     };
     for (const auto &[caption, run] : entries)
         connect(pmZestaw->addAction(QString::fromUtf8(caption)), &QAction::triggered, this, run);
@@ -67,11 +97,12 @@ void TfrmZlecPrzychodzace::acZestawienieExecute()
 
 int TfrmZlecPrzychodzace::selectedCarrier() const
 {
-    const int key = selectedOrder();
-    Connection *database = session().Database;
-    if (key == 0 || !database)
-        return 0;
-    return TVzlecenia_przychObj(*database).SelectById(key).IDPRZEWOZNIK;
+    return contractorOf(selectedOrder(), &TVzlecenia_przychObj::IDPRZEWOZNIK);
+}
+
+int TfrmZlecPrzychodzace::selectedClient() const
+{
+    return contractorOf(selectedOrder(), &TVzlecenia_przychObj::IDKONTRAHENT);
 }
 
 void TfrmZlecPrzychodzace::acKartaExecute()

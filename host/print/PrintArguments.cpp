@@ -1,0 +1,31 @@
+#include "PrintArguments.h"
+
+#include <stdexcept>
+
+void PrintArguments::refuse(const QString &text)
+{
+    throw std::invalid_argument(text.toStdString());
+}
+
+QDate PrintArguments::day(const QString &argument)
+{
+    const QDate day = QDate::fromString(argument, Qt::ISODate);
+    if (!day.isValid() || argument.size() != 10)
+        refuse(QStringLiteral("Data musi mieć postać rrrr-mm-dd: %1").arg(argument));
+    return day;
+}
+
+int PrintArguments::optionKey(const QStringList &arguments, const QString &option,
+                              const QString &subject)
+{
+    const qsizetype at = arguments.indexOf(option);
+    if (at < 0)
+        return 0;
+    bool ok = false;
+    const int key = arguments.value(at + 1).toInt(&ok);
+    if (!ok || key < 1) {
+        refuse(subject + QStringLiteral(" musi być dodatnią liczbą całkowitą: ")
+               + arguments.value(at + 1));
+    }
+    return key;
+}
