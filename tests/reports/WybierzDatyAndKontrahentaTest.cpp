@@ -1,0 +1,92 @@
+// The period dialog of the statements of invoices.
+#include "ScriptedMessages.h"
+#include "TBitBtn.h"
+#include "TDateEdit.h"
+#include "TfrmWybierzDatyAndKontrahenta.h"
+
+#include <QApplication>
+#include <QCheckBox>
+#include <QLabel>
+#include <QTest>
+
+#include <gtest/gtest.h>
+
+namespace {
+
+std::unique_ptr<TfrmWybierzDatyAndKontrahenta> open()
+{
+    auto dialog = TfrmRODefault::create<TfrmWybierzDatyAndKontrahenta>();
+    dialog->show();
+    dialog->activateWindow();
+    EXPECT_TRUE(QTest::qWaitForWindowActive(dialog.get()));
+    return dialog;
+}
+
+// Over a date's text: the year selected, the digits typed; each section
+// passes on to the next once it is full.
+void retypeDate(TDateEdit *field, const QString &text)
+{
+    field->setFocus();
+    QTest::keyClick(field, Qt::Key_Home);
+    for (int i = 0; i < 4; ++i)
+        QTest::keyClick(field, Qt::Key_Right, Qt::ShiftModifier);
+    QTest::keyClicks(field, QString(text).remove(QLatin1Char('-')));
+}
+
+// The box's accelerator clicks it a moment later, as a person sees it.
+void pressAlt(Qt::Key key, QCheckBox *box)
+{
+    const bool before = box->isChecked();
+    QTest::keyClick(QApplication::focusWidget(), key, Qt::AltModifier);
+    EXPECT_TRUE(QTest::qWaitFor([box, before] { return box->isChecked() != before; }))
+        << box->text().toStdString();
+}
+
+} // namespace
+
+TEST(WybierzDatyAndKontrahenta, StartsOnTheCurrentMonthWithThePreviewTicked)
+{
+    const auto dialog = open();
+    EXPECT_EQ(dialog->windowTitle(), "Zestawienie");
+    EXPECT_EQ(dialog->cbWlasny->text(), "&Wykonawca własny");
+    EXPECT_EQ(dialog->cbPodglad->text(), "&Podgląd wydruku");
+    const QDate today = QDate::currentDate();
+    EXPECT_EQ(dialog->from(), QDate(today.year(), today.month(), 1));
+    EXPECT_EQ(dialog->to(), QDate(today.year(), today.month(), today.daysInMonth()));
+    EXPECT_FALSE(dialog->ownExecutor());
+    EXPECT_TRUE(dialog->previewFirst());
+}
+
+TEST(WybierzDatyAndKontrahenta, TypedPeriodAndTickedBoxesComeBackWithOk)
+{
+    const auto dialog = open();
+    retypeDate(dialog->deOd, QStringLiteral("2024-03-01"));
+    retypeDate(dialog->deDo, QStringLiteral("2024-03-31"));
+    pressAlt(Qt::Key_W, dialog->cbWlasny);
+    pressAlt(Qt::Key_P, dialog->cbPodglad);
+    QTest::mouseClick(dialog->btnOk, Qt::LeftButton);
+
+    EXPECT_EQ(dialog->result(), TfrmRODefault::mrOk);
+    EXPECT_EQ(dialog->from(), QDate(2024, 3, 1));
+    EXPECT_EQ(dialog->to(), QDate(2024, 3, 31));
+    EXPECT_TRUE(dialog->ownExecutor());
+    EXPECT_FALSE(dialog->previewFirst());
+}
+
+TEST(WybierzDatyAndKontrahenta, APeriodEndingBeforeItStartsIsRefusedAndEscCancels)
+{
+    const auto dialog = open();
+    retypeDate(dialog->deOd, QStringLiteral("2024-05-02"));
+    retypeDate(dialog->deDo, QStringLiteral("2024-05-01"));
+    scriptedMessages().expect();
+    QTest::mouseClick(dialog->btnOk, Qt::LeftButton);
+    ASSERT_EQ(scriptedMessages().shown().size(), 1u);
+    EXPECT_EQ(scriptedMessages().shown()[0].caption, "Zestawienie");
+    EXPECT_TRUE(scriptedMessages().shown()[0].text.contains("przed swoim początkiem"));
+    EXPECT_TRUE(dialog->isVisible());
+    EXPECT_EQ(dialog->result(), 0);
+    EXPECT_EQ(dialog->from(), QDate(2024, 5, 2));
+
+    QTest::keyClick(QApplication::focusWidget(), Qt::Key_Escape);
+    EXPECT_EQ(dialog->result(), TfrmRODefault::mrCancel);
+}
