@@ -43,7 +43,8 @@ int main(int argc, char **argv)
         std::printf("demo company with %d orders, a year to %s, median of %d runs\n\n", orders,
                     qPrintable(year.last()), runs);
         BenchTimer timer;
-        for (const char *name : {"statement-clients", "statement-carriers", "statement-user-rates",
+        for (const char *name : {"statement-clients", "statement-carriers",
+                                 "statement-rate-differences", "statement-user-rates",
                                  "statement-user-invoices", "statement-user-carrier-invoices"}) {
             const PrintJobs::Job *job = PrintJobs::find(QString::fromLatin1(name));
             int pages = 0;

@@ -7,6 +7,7 @@
 #include "TfrmPrintObrotyNaUseraZagr.h"
 #include "TfrmZestawienieKontrahenta.h"
 #include "TfrmZestawieniePrzewoznika.h"
+#include "TfrmZestawienieRoznicStawek2.h"
 
 namespace {
 
@@ -63,4 +64,11 @@ void StatementPrintJobs::userCarrierInvoices(PdfBook &book, Connection &connecti
 {
     print<TfrmPrintObrotyNaUseraFaktObca>(book, connection, arguments,
                                           QStringLiteral("--user"), User);
+}
+
+void StatementPrintJobs::rateDifferences(PdfBook &book, Connection &connection,
+                                         const QStringList &arguments)
+{
+    TfrmZestawienieRoznicStawek2 printout(connection, periodOf(arguments));
+    book.add(printout.report());
 }

@@ -15,6 +15,7 @@ void clients(PdfBook &book, Connection &connection, const QStringList &arguments
 void carriers(PdfBook &book, Connection &connection, const QStringList &arguments);
 void userRates(PdfBook &book, Connection &connection, const QStringList &arguments);
 void userInvoices(PdfBook &book, Connection &connection, const QStringList &arguments);
+void rateDifferences(PdfBook &book, Connection &connection, const QStringList &arguments);
 void userCarrierInvoices(PdfBook &book, Connection &connection, const QStringList &arguments);
 
 } // namespace StatementPrintJobs

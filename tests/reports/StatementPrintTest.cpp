@@ -30,6 +30,8 @@ protected:
 TEST_F(StatementPrint, EachStatementIsAPdfOfItsPeriod)
 {
     seedCompany();
+    // Order 3 on the invoice 002/03/2026.
+    db.exec(QStringLiteral("UPDATE ZLECENIA_PRZYCH SET IDFAKTURY = 2 WHERE NUMER = 3"));
     const struct
     {
         const char *job;
@@ -38,6 +40,7 @@ TEST_F(StatementPrint, EachStatementIsAPdfOfItsPeriod)
     } jobs[] = {
         {"statement-clients", {}, {"Kontrahent: BETA", "Kontrahent: ALFA", "30,8 %"}},
         {"statement-carriers", {"--carrier", QString::number(cargoY)}, {"CY/7", "100,00"}},
+        {"statement-rate-differences", {}, {"002/03/2026", "przewoźnicy obcy"}},
         {"statement-user-rates", {}, {"Spedytor: anna", "Spedytor: bartek", "30,8 %"}},
         {"statement-user-invoices", {}, {"001/03/2026", "002/03/2026", "978,65"}},
         {"statement-user-carrier-invoices", {"--user", QString::number(bartek)}, {"ZW/1"}},

@@ -9,6 +9,7 @@
 #include "TfrmPrintObrotyNaUseraZagr.h"
 #include "TfrmZestawienieKontrahenta.h"
 #include "TfrmZestawieniePrzewoznika.h"
+#include "TfrmZestawienieRoznicStawek2.h"
 #include "UserCarrierInvoiceStatement.h"
 
 #include <map>
@@ -200,6 +201,42 @@ TEST_F(Statements, CarrierInvoicesOfADispatcherShowWhatRemainsAndHowLate)
     EXPECT_FALSE(texts.contains("ZW/1"));
 }
 
+TEST_F(Statements, RateDifferencesPutOurInvoiceAgainstTheCarriersAndTheOwnFleetApart)
+{
+    seedCompany();
+    // 001/03/2026 invoices orders 1 and 2, its positions naming them;
+    // 002/03/2026 invoices order 3 alone, its position naming none; 003/03/2026
+    // invoices order 4, carried by the company itself.
+    db.exec(QStringLiteral("UPDATE ZLECENIA_PRZYCH SET IDFAKTURY = 1 WHERE NUMER IN (1, 2)"));
+    db.exec(QStringLiteral("UPDATE ZLECENIA_PRZYCH SET IDFAKTURY = 2 WHERE NUMER = 3"));
+    db.exec(QStringLiteral("UPDATE FAKTURY_POZYCJE SET ID_ZLECENIA = "
+                           "(SELECT ID_ZLECENIA_PRZYCH FROM ZLECENIA_PRZYCH WHERE NUMER = 1) "
+                           "WHERE ID_FAKTURY = 1 AND ILOSC = 1"));
+    db.exec(QStringLiteral("UPDATE FAKTURY_POZYCJE SET ID_ZLECENIA = "
+                           "(SELECT ID_ZLECENIA_PRZYCH FROM ZLECENIA_PRZYCH WHERE NUMER = 2) "
+                           "WHERE ID_FAKTURY = 1 AND ILOSC = 2"));
+    const int late = addInvoice(QStringLiteral("003/03/2026"), 1, QDate(2026, 3, 28), anna, gamma,
+                                 {{1.0, 500.0}});
+    db.exec(QStringLiteral("UPDATE ZLECENIA_PRZYCH SET IDFAKTURY = %1 WHERE NUMER = 4")
+                .arg(late));
+
+    TfrmZestawienieRoznicStawek2 statement(db.connection(), march());
+    const QStringList texts = printed(statement);
+    EXPECT_EQ(statement.report().pageSetup().orientation, QPageLayout::Landscape);
+    EXPECT_TRUE(inOrder(
+        texts, {"Faktury przewożnika i własne od 2026-03-01 do 2026-03-31", "Zlecenie",
+                "Przewoźnik", "Faktura", "Netto faktury", "Faktura przewoźnika",
+                "Kwota przewoźnika", "Różnica", "Marża", "Wykonawca: przewoźnicy obcy",
+                "00000001", "TRANS-X", "001/03/2026", amount("1 235,00"), "TX/1",
+                amount("1 000,00"), "235,00", "23,5 %", "00000002", "20,01", "0,00", "20,01",
+                "-", "00000003", "CARGO-Y", "002/03/2026", amount("3 000,00"), "CY/7",
+                amount("2 100,00"), "900,00", "42,9 %", "Razem (pozycji: 3):",
+                amount("4 255,01"), amount("3 100,00"), amount("1 155,01"), "37,3 %",
+                "Wykonawca: wykonawca własny", "00000004", "ŻURAW", "003/03/2026", "500,00",
+                "ZW/1", "100,00", "400,00", "400,0 %", "Ogółem (pozycji: 4):",
+                amount("4 755,01"), amount("3 200,00"), amount("1 555,01")}));
+}
+
 TEST_F(Statements, AnEmptyPeriodPrintsTheHeadsAndZeroTotals)
 {
     seedCompany();
@@ -209,8 +246,9 @@ TEST_F(Statements, AnEmptyPeriodPrintsTheHeadsAndZeroTotals)
     TfrmPrintObrotyNaUseraZagr rates(db.connection(), empty, 0);
     TfrmPrintObrotyNaUseraFakt invoices(db.connection(), empty, 0);
     TfrmPrintObrotyNaUseraFaktObca carrierInvoices(db.connection(), empty, 0);
+    TfrmZestawienieRoznicStawek2 differences(db.connection(), empty);
     for (StatementReport *statement : std::initializer_list<StatementReport *>{
-             &clients, &carriers, &rates, &invoices, &carrierInvoices}) {
+             &clients, &carriers, &rates, &invoices, &carrierInvoices, &differences}) {
         const std::vector<ReportPage> &pages = statement->report().prepare();
         ASSERT_EQ(pages.size(), 1u) << statement->report().title().toStdString();
         const QStringList texts = PageTexts::printed(pages);

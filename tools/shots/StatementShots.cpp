@@ -9,6 +9,7 @@
 #include "TfrmWyborKontrachentDaty1.h"
 #include "TfrmZestawienieKontrahenta.h"
 #include "TfrmZestawieniePrzewoznika.h"
+#include "TfrmZestawienieRoznicStawek2.h"
 
 #include <QDate>
 
@@ -57,6 +58,10 @@ void addStatementShots(ShotBook &book)
                                              true);
     addStatement<TfrmZestawieniePrzewoznika>(book, QStringLiteral("frmZestawieniePrzewoznika"),
                                              false);
+    book.add(QStringLiteral("frmZestawienieRoznicStawek2"), [](ShotContext &) {
+        TfrmZestawienieRoznicStawek2 statement(demoCompany(), twoMonths());
+        return firstPage(statement.report());
+    });
     addStatement<TfrmPrintObrotyNaUseraZagr>(book, QStringLiteral("frmPrintObrotyNaUseraZagr"),
                                              true);
     addStatement<TfrmPrintObrotyNaUseraFakt>(book, QStringLiteral("frmPrintObrotyNaUseraFakt"),

@@ -119,6 +119,7 @@ private:
     void acDrukujExecute();
     void BitBtn6Click();
     void buildStatementsMenu();
+    void rateDifferences();
     void acKartaExecute();
     void BtnFakturaObcaClick();
     void acZestawienieExecute();

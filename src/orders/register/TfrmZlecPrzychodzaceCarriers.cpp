@@ -15,12 +15,15 @@
 #include "TframeListView.h"
 #include "TfrmFaktPrzew.h"
 #include "TfrmKartaDrogowa.h"
+#include "TfrmWybierzDatyAndKontrahenta.h"
 #include "TfrmWybierzDatyAndUsera1.h"
 #include "TfrmWyborKontrachentDaty.h"
 #include "TfrmWyborKontrachentDaty1.h"
 #include "TfrmWydrukiPrzewoz.h"
+#include "TfrmZestawienieRoznicStawek2.h"
 
 #include <QAction>
+#include <QCheckBox>
 #include <QMenu>
 
 #include <functional>
@@ -78,6 +81,7 @@ void TfrmZlecPrzychodzace::buildStatementsMenu()
              if (Connection *database = session().Database)
                  TFrmNiezaplaconeList(*database).Preview();
          }},
+        {"Faktury przewożnika i własne", [this] { rateDifferences(); }},
         {"Zestawienie na kraj  stawka/spedytor",
          [=] { userStatement(TfrmWybierzDatyAndUsera1::Rates); }},
         {"Zestawienie na kraj faktura/spedytor",
@@ -87,6 +91,22 @@ void TfrmZlecPrzychodzace::buildStatementsMenu()
     };
     for (const auto &[caption, run] : entries)
         connect(pmZestaw->addAction(QString::fromUtf8(caption)), &QAction::triggered, this, run);
+}
+
+void TfrmZlecPrzychodzace::rateDifferences()
+{
+    const auto dialog = TfrmRODefault::create<TfrmWybierzDatyAndKontrahenta>(this);
+    // The statement shows the outside carriers and the own fleet apart,
+    // so there is no executor to choose.
+    dialog->cbWlasny->hide();
+    Connection *database = session().Database;
+    if (dialog->showModal() != mrOk || !database)
+        return;
+    TfrmZestawienieRoznicStawek2 statement(*database, {dialog->from(), dialog->to()});
+    if (dialog->previewFirst())
+        statement.Preview();
+    else
+        statement.Print();
 }
 
 void TfrmZlecPrzychodzace::acZestawienieExecute()

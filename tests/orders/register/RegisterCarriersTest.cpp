@@ -14,6 +14,7 @@
 #include "TframeListView.h"
 #include "TfrmFaktPrzew.h"
 #include "TfrmKartaDrogowa.h"
+#include "TfrmWybierzDatyAndKontrahenta.h"
 #include "TfrmWybierzDatyAndUsera1.h"
 #include "TfrmWydrukiPrzewoz.h"
 #include "TfrmWyborKontrachentDaty.h"
@@ -226,6 +227,7 @@ TEST_F(RegisterCarriers, TheStatementsMenuOpensTheCarriersListsForTheSelectedCar
                                      QStringLiteral("Faktury przewoźnika zapłacone"),
                                      QStringLiteral("Zestawienie faktur przewoźników"),
                                      QStringLiteral("Płatność - przewoźnicy"),
+                                     QStringLiteral("Faktury przewożnika i własne"),
                                      QStringLiteral("Zestawienie na kraj  stawka/spedytor"),
                                      QStringLiteral("Zestawienie na kraj faktura/spedytor"),
                                      QStringLiteral("Faktura Obca\\zapłata..")}));
@@ -289,7 +291,20 @@ TEST_F(RegisterCarriers, TheStatementsOfClientsCarriersAndDispatchersStartFromTh
                 QTest::mouseClick(dialog.btnCancel, Qt::LeftButton);
                 return dialog.result();
             });
-        form->pmZestaw->actions().at(6 + i)->trigger();
+        form->pmZestaw->actions().at(7 + i)->trigger();
     }
     EXPECT_TRUE(scriptedModalRunner().allRun());
+
+    // The rate differences: the period, no executor to choose, a preview.
+    QTemporaryDir dir;
+    ReportOutputs::Scoped<PdfFileReportOutput> files{dir.path()};
+    scriptedModalRunner().expect<TfrmWybierzDatyAndKontrahenta>(
+        [](TfrmWybierzDatyAndKontrahenta &dialog) {
+            EXPECT_FALSE(dialog.cbWlasny->isVisible());
+            QTest::mouseClick(dialog.btnOk, Qt::LeftButton);
+            return dialog.result();
+        });
+    form->pmZestaw->actions().at(6)->trigger();
+    ASSERT_EQ(files->deliveries().size(), 1u);
+    EXPECT_TRUE(files->deliveries()[0].title.startsWith("Faktury przewożnika i własne od "));
 }
