@@ -1,6 +1,5 @@
 // The statement of issued invoices as it is laid out, and the register's
 // way to it: the period dialog, the wait window, preview or printer.
-#include "Typing.h"
 #include "IssuedInvoices.h"
 #include "IssuedInvoicesStatement.h"
 #include "PdfFileReportOutput.h"
@@ -9,8 +8,10 @@
 #include "ReportsFixture.h"
 #include "ScriptedModalRunner.h"
 #include "TBitBtn.h"
+#include "TDateEdit.h"
 #include "TfrmWybierzDatyAndKontrahenta.h"
 #include "TfrmZestawienieRachunkow.h"
+#include "Typing.h"
 
 #include <QCheckBox>
 #include <QTemporaryDir>
