@@ -63,6 +63,23 @@ int main(int argc, char **argv)
                     arguments.repetitions);
 
         BenchTimer timer;
+        // One job to a PDF file as haulix-print writes it; its page count.
+        const auto toPdf = [&](const char *name, const QString &span,
+                               const QStringList &period) {
+            const PrintJobs::Job *job = PrintJobs::find(QString::fromLatin1(name));
+            int pages = 0;
+            timer.measure(QStringLiteral("%1, %2: to PDF").arg(QLatin1String(name), span), [&] {
+                PdfBook book;
+                {
+                    Transaction transaction(connection);
+                    TransactionScope snapshot(transaction);
+                    job->run(book, connection, period);
+                }
+                book.save(file);
+                pages = book.pageCount();
+            }, arguments.repetitions);
+            return pages;
+        };
         for (const auto &[span, from] : {std::pair{"month", today.addMonths(-1)},
                                          {"year", today.addYears(-1)}}) {
             const QStringList period{from.toString(Qt::ISODate), today.toString(Qt::ISODate)};
@@ -89,18 +106,7 @@ int main(int argc, char **argv)
                     report.prepare(st);
                     rows = rawRows(st);
                 }, arguments.repetitions);
-                int pages = 0;
-                const PrintJobs::Job *job = PrintJobs::find(QString::fromLatin1(report.job));
-                timer.measure(QStringLiteral("%1, %2: to PDF").arg(report.job, span), [&] {
-                    PdfBook book;
-                    {
-                        Transaction transaction(connection);
-                        TransactionScope snapshot(transaction);
-                        job->run(book, connection, period);
-                    }
-                    book.save(file);
-                    pages = book.pageCount();
-                }, arguments.repetitions);
+                const int pages = toPdf(report.job, QString::fromLatin1(span), period);
                 std::printf("%-48s %d rows, %d pages\n", "", rows, pages);
             }
             // Where the statement's time goes: its records, then their layout.
@@ -119,19 +125,7 @@ int main(int argc, char **argv)
                                      "statement-rate-differences", "statement-user-rates",
                                      "statement-user-invoices",
                                      "statement-user-carrier-invoices"}) {
-                const PrintJobs::Job *job = PrintJobs::find(QString::fromLatin1(name));
-                int pages = 0;
-                timer.measure(QStringLiteral("%1, %2: to PDF").arg(QLatin1String(name), span),
-                              [&] {
-                                  PdfBook book;
-                                  {
-                                      Transaction transaction(connection);
-                                      TransactionScope snapshot(transaction);
-                                      job->run(book, connection, period);
-                                  }
-                                  book.save(file);
-                                  pages = book.pageCount();
-                              }, arguments.repetitions);
+                const int pages = toPdf(name, QString::fromLatin1(span), period);
                 std::printf("%-48s %d pages\n", "", pages);
                 std::fflush(stdout);
             }

@@ -1,5 +1,4 @@
 // The partners report: its selection dialog and its pages.
-#include "Typing.h"
 #include "PdfFileReportOutput.h"
 #include "ReportTexts.h"
 #include "ReportsFixture.h"
@@ -10,6 +9,7 @@
 #include "TestData.h"
 #include "TfrmRepWspolnicy.h"
 #include "TfrmWyborWspolnika.h"
+#include "Typing.h"
 
 #include <QCheckBox>
 #include <QComboBox>

@@ -1,9 +1,9 @@
 // The period dialog of the statements of invoices.
-#include "Typing.h"
 #include "ScriptedMessages.h"
 #include "TBitBtn.h"
 #include "TDateEdit.h"
 #include "TfrmWybierzDatyAndKontrahenta.h"
+#include "Typing.h"
 
 #include <QApplication>
 #include <QCheckBox>
