@@ -7,6 +7,7 @@ set -euo pipefail
 packages=(
   g++ cmake ninja-build make pkg-config
   qt6-base-dev qt6-qpa-plugins libqt6sql6-ibase libgl-dev qt6-translations-l10n
+  qt6-charts-dev
   firebird3.0-server-core firebird3.0-utils firebird-dev firebird3.0-server
   googletest libgtest-dev libbenchmark-dev
   poppler-utils

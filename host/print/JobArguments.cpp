@@ -22,3 +22,18 @@ std::pair<QDate, QDate> JobArguments::periodOf(const QString &from, const QStrin
         refuse(QStringLiteral("Początek okresu jest późniejszy niż jego koniec."));
     return period;
 }
+
+int JobArguments::optionKey(const QStringList &arguments, const QString &option,
+                            const QString &subject)
+{
+    const qsizetype at = arguments.indexOf(option);
+    if (at < 0)
+        return 0;
+    bool ok = false;
+    const int key = arguments.value(at + 1).toInt(&ok);
+    if (!ok || key < 1) {
+        refuse(subject + QStringLiteral(" musi być dodatnią liczbą całkowitą: ")
+               + arguments.value(at + 1));
+    }
+    return key;
+}

@@ -2,6 +2,7 @@
 
 #include <QDate>
 #include <QString>
+#include <QStringList>
 
 #include <utility>
 
@@ -14,5 +15,8 @@ namespace JobArguments {
 QDate dayOf(const QString &argument);
 // A period of two such days, the first not after the second.
 std::pair<QDate, QDate> periodOf(const QString &from, const QString &to);
+// The value of "--option ID", a positive whole number; 0 when the option
+// is not given. subject names it in the refusal ("Identyfikator przewoźnika").
+int optionKey(const QStringList &arguments, const QString &option, const QString &subject);
 
 } // namespace JobArguments

@@ -2,6 +2,8 @@
 
 #include "PrintJobs.h"
 
+#include <algorithm>
+
 std::optional<PrintCommand> PrintCommand::parse(const QStringList &arguments, QString &error)
 {
     if (arguments.size() < 4 || arguments.at(0) != QLatin1String("--db")) {
@@ -50,11 +52,22 @@ QString PrintCommand::usage()
 {
     QString text = QStringLiteral("Użycie: haulix-print --db BAZA WYDRUK [ARGUMENTY] PLIK.pdf\n"
                                   "Wydruki:\n");
+    // The descriptions stand in one column, right of the longest call that
+    // leaves them room; a longer call gets its description on a line of its own.
+    constexpr qsizetype Widest = 56;
+    const auto headOf = [](const PrintJobs::Job &job) {
+        return QStringLiteral("  %1 %2").arg(job.name, job.arguments);
+    };
+    qsizetype width = 40;
     for (const PrintJobs::Job &job : PrintJobs::all()) {
-        const QString head = QStringLiteral("  %1 %2").arg(job.name, job.arguments);
-        // A long head gets its description on a line of its own.
-        text += head.size() < 40 ? head.leftJustified(40)
-                                 : head + u'\n' + QString(40, u' ');
+        const qsizetype size = headOf(job).size() + 2;
+        if (size <= Widest)
+            width = std::max(width, size);
+    }
+    for (const PrintJobs::Job &job : PrintJobs::all()) {
+        const QString head = headOf(job);
+        text += head.size() < width ? head.leftJustified(width)
+                                    : head + u'\n' + QString(width, u' ');
         text += job.description + u'\n';
     }
     return text;

@@ -2,7 +2,7 @@
 
 #include "CarrierPrintJobs.h"
 #include "PdfBook.h"
-#include "ReportPrintJobs.h"
+#include "StatementPrintJobs.h"
 #include "TfrmPrintReport.h"
 #include "TfrmRachunekPL.h"
 #include "TfrmZalacznik.h"
@@ -72,13 +72,31 @@ const std::vector<PrintJobs::Job> &PrintJobs::all()
          CarrierPrintJobs::payments},
         {QStringLiteral("invoices-statement"), QStringLiteral("OD DO [--own]"),
          QStringLiteral("faktury krajowe wystawione od OD do DO (--own: wykonawca własny)"),
-         2, ReportPrintJobs::issuedInvoices, {}, {QStringLiteral("--own")}},
+         2, StatementPrintJobs::issuedInvoices, {}, {QStringLiteral("--own")}},
         {QStringLiteral("partners"),
          QStringLiteral("OD DO [--partner ID] [--domestic|--foreign] [--own|--others]"),
          QStringLiteral("zlecenia w podziale na kontrahenta (raport wspólników)"), 2,
-         ReportPrintJobs::partners, {QStringLiteral("--partner")},
+         StatementPrintJobs::partners, {QStringLiteral("--partner")},
          {QStringLiteral("--domestic"), QStringLiteral("--foreign"), QStringLiteral("--own"),
           QStringLiteral("--others")}},
+        {QStringLiteral("statement-clients"), QStringLiteral("OD DO [--client ID]"),
+         QStringLiteral("kwoty dla kontrahenta - przychód, zysk od OD do DO"), 2,
+         StatementPrintJobs::clients, {QStringLiteral("--client")}},
+        {QStringLiteral("statement-carriers"), QStringLiteral("OD DO [--carrier ID]"),
+         QStringLiteral("kwota stawki na przewoźnika - koszt od OD do DO"), 2,
+         StatementPrintJobs::carriers, {QStringLiteral("--carrier")}},
+        {QStringLiteral("statement-rate-differences"), QStringLiteral("OD DO"),
+         QStringLiteral("faktury przewoźnika i własne: faktury wystawione od OD do DO"), 2,
+         StatementPrintJobs::rateDifferences},
+        {QStringLiteral("statement-user-rates"), QStringLiteral("OD DO [--user ID]"),
+         QStringLiteral("zestawienie stawek na spedytora\\dysponenta od OD do DO"), 2,
+         StatementPrintJobs::userRates, {QStringLiteral("--user")}},
+        {QStringLiteral("statement-user-invoices"), QStringLiteral("OD DO [--user ID]"),
+         QStringLiteral("zestawienie faktur na spedytora\\dysponenta od OD do DO"), 2,
+         StatementPrintJobs::userInvoices, {QStringLiteral("--user")}},
+        {QStringLiteral("statement-user-carrier-invoices"), QStringLiteral("OD DO [--user ID]"),
+         QStringLiteral("zestawienie faktur obcych na spedytora\\dysponenta od OD do DO"), 2,
+         StatementPrintJobs::userCarrierInvoices, {QStringLiteral("--user")}},
     };
     return jobs;
 }

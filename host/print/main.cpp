@@ -16,7 +16,7 @@
 #include "StderrMessages.h"
 #include "Transaction.h"
 
-#include <QGuiApplication>
+#include <QApplication>
 #include <QLocale>
 #include <QTextStream>
 
@@ -65,13 +65,14 @@ int main(int argc, char **argv)
     // Never a window: the platform needs no display.
     qputenv("QT_QPA_PLATFORM", "offscreen");
     qInstallMessageHandler(quietQt);
-    QGuiApplication application(argc, argv);
+    // A full application: the statements' charts are drawn by widgets' code.
+    QApplication application(argc, argv);
     QLocale::setDefault(QLocale(QLocale::Polish, QLocale::Poland));
     qRegisterMetaType<DateTime>();
 
     QString error;
     const std::optional<PrintCommand> command
-        = PrintCommand::parse(QGuiApplication::arguments().mid(1), error);
+        = PrintCommand::parse(QApplication::arguments().mid(1), error);
     if (!command) {
         QTextStream(stderr) << error;
         return 2;

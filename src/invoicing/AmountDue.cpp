@@ -1,6 +1,6 @@
 #include "AmountDue.h"
 
-#include "CentRounding.h"
+#include "InvoiceLine.h"
 #include "Statement.h"
 
 double AmountDue::of(Connection &connection, int invoiceKey)
@@ -18,8 +18,8 @@ double AmountDue::of(Connection &connection, int invoiceKey)
     const int percent = st.columnIndex(QStringLiteral("PROCENT"));
     double due = 0.0;
     for (; !st.atEnd(); st.next()) {
-        const double net = CentRounding::halfUp(st.number(price) * st.number(quantity));
-        due += net + CentRounding::halfUp(st.number(percent) * net);
+        due += InvoiceLine::amounts(st.number(quantity), st.number(price), st.number(percent))
+                   .gross;
     }
     return due;
 }

@@ -17,12 +17,22 @@ InvoiceLine InvoiceLine::of(const TFaktury_pozycjeObj &position, const TStawki_v
     line.unit = position.JM;
     line.quantity = Format::number(position.ILOSC, u"#,##0.0");
     line.unitPrice = Format::number(position.CENA_NETTO, u"#,##0.00");
-    line.netValue = CentRounding::halfUp(position.ILOSC * position.CENA_NETTO);
+    const VatAmounts values = amounts(position.ILOSC, position.CENA_NETTO, rate.PROCENT);
+    line.netValue = values.net;
     line.rate = rate.OPIS;
-    line.vatValue = CentRounding::halfUp(line.netValue * rate.PROCENT);
-    line.grossValue = line.netValue + line.vatValue;
+    line.vatValue = values.vat;
+    line.grossValue = values.gross;
     line.net = Format::number(line.netValue, u"#,##0.00");
     line.vat = Format::number(line.vatValue, u"#,##0.00");
     line.gross = Format::number(line.grossValue, u"#,##0.00");
     return line;
+}
+
+VatAmounts InvoiceLine::amounts(double quantity, double netPrice, double rate)
+{
+    VatAmounts values;
+    values.net = CentRounding::halfUp(quantity * netPrice);
+    values.vat = CentRounding::halfUp(values.net * rate);
+    values.gross = values.net + values.vat;
+    return values;
 }

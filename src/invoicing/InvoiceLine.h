@@ -1,5 +1,7 @@
 #pragma once
 
+#include "InvoiceTotals.h"
+
 #include <QString>
 
 class TFaktury_pozycjeObj;
@@ -28,4 +30,8 @@ struct InvoiceLine
     // The rate is the position's STAWKI_VAT record; a key of 0 (rate not
     // found) prints no label and no VAT.
     static InvoiceLine of(const TFaktury_pozycjeObj &position, const TStawki_vatObj &rate);
+    // What a position of that quantity, net unit price and VAT rate (a
+    // fraction: 0.23) amounts to: its net rounded to the grosz, the VAT of
+    // that net rounded again, and their sum.
+    static VatAmounts amounts(double quantity, double netPrice, double rate);
 };

@@ -31,7 +31,7 @@ protected:
 
 TEST_F(PartnersSelectionTest, TheStatementIsBuiltLineByLine)
 {
-    PartnersSelection s = march();
+    PartnersSelection s = partnersOfMarch();
     Statement st(db.connection());
     s.prepare(st, QStringLiteral("ŻURAW"));
     EXPECT_EQ(st.lines(), QStringList({"select * from VRAPORT_WSPOLNICY",
@@ -57,7 +57,7 @@ TEST_F(PartnersSelectionTest, TheStatementIsBuiltLineByLine)
 
 TEST_F(PartnersSelectionTest, TheTitleNamesThePartnerUnlessAllAreShownAndTheRegion)
 {
-    PartnersSelection s = march();
+    PartnersSelection s = partnersOfMarch();
     s.partnerText = QStringLiteral("Jan Wiśniewski");
     EXPECT_EQ(s.title(), "Dla kontrahenta: Jan Wiśniewski. Z okresu: 2026-03-01 - 2026-03-31. "
                          "Zlecenia krajowe i zagraniczne.");
@@ -95,7 +95,7 @@ TEST_F(PartnersSelectionTest, RowsOfThePeriodRegionCarrierAndPartnerInInvoiceDat
     const int april = addInvoice({.sequence = 7, .issued = QDate(2026, 4, 1)});
     addOrder({.invoice = april, .number = 7, .partner = 1});
 
-    PartnersSelection s = march();
+    PartnersSelection s = partnersOfMarch();
     EXPECT_EQ(numbers(s), QList<int>({2, 5, 4, 1, 3}));
     s.region = PartnersSelection::Domestic;
     EXPECT_EQ(numbers(s), QList<int>({2, 5, 1}));
@@ -122,7 +122,7 @@ TEST_F(PartnersSelectionTest, WithoutAnOwnContractorTheOwnChoiceMatchesEmptyCarr
     invoiced(1, 2, 0, false, 1);
     invoiced(2, 3, carrier, false, 1);
     db.exec(QStringLiteral("UPDATE ZLECENIA_PRZYCH SET IDPRZEWOZNIK=0 WHERE NUMER=1"));
-    PartnersSelection s = march();
+    PartnersSelection s = partnersOfMarch();
     s.executor = PartnersSelection::OwnCompany;
     EXPECT_EQ(numbers(s), QList<int>({1}));
     s.executor = PartnersSelection::OtherCarriers;

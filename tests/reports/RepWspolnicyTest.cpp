@@ -1,14 +1,14 @@
 // The partners report: its selection dialog and its pages.
 #include "PdfFileReportOutput.h"
-#include "ReportsFixture.h"
 #include "ReportTexts.h"
+#include "ReportsFixture.h"
 #include "ScriptedModalRunner.h"
 #include "TBitBtn.h"
 #include "TDateEdit.h"
+#include "TRadioGroup.h"
 #include "TestData.h"
 #include "TfrmRepWspolnicy.h"
 #include "TfrmWyborWspolnika.h"
-#include "TRadioGroup.h"
 #include "Typing.h"
 
 #include <QCheckBox>
@@ -38,9 +38,9 @@ class RepWspolnicy : public ReportsFixture
 {
 protected:
     // March, every partner.
-    static PartnersSelection march()
+    static PartnersSelection everyPartnerOfMarch()
     {
-        PartnersSelection s = ReportsFixture::march();
+        PartnersSelection s = partnersOfMarch();
         s.showAll = true;
         return s;
     }
@@ -119,7 +119,7 @@ TEST_F(RepWspolnicy, EachOrderOnALineWithItsProfitSplitAndTheTotals)
     invoiced(7, 10, 1250.0, 1000.0, carrier);
     invoiced(8, 12, 2000.0, 0.0);
     TfrmRepWspolnicy report(db.connection());
-    report.select(march());
+    report.select(everyPartnerOfMarch());
     const std::vector<ReportPage> &pages = report.QuickRep1().prepare();
     ASSERT_EQ(pages.size(), 1u);
     const QStringList texts = printed(pages);
@@ -143,7 +143,7 @@ TEST_F(RepWspolnicy, EachOrderOnALineWithItsProfitSplitAndTheTotals)
 TEST_F(RepWspolnicy, AnEmptyPeriodPrintsTheHeadsAndZeroTotalsAndEveryPrintReadsAgain)
 {
     TfrmRepWspolnicy report(db.connection());
-    report.select(march());
+    report.select(everyPartnerOfMarch());
     QStringList texts = printed(report.QuickRep1().prepare());
     EXPECT_TRUE(inOrder(texts, Heads));
     EXPECT_TRUE(inOrder(texts, {"W/W", "Przewoźnik", "RAZEM", "0,00", "0,00", "0,00", "0,00",

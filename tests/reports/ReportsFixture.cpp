@@ -1,9 +1,6 @@
 #include "ReportsFixture.h"
 
-#include "TFakturyObj.h"
-#include "TFaktury_pozycjeObj.h"
-#include "TStawki_vatObj.h"
-#include "TZlecenia_przychObj.h"
+#include "TableObjects.h"
 #include "TestData.h"
 
 ReportsFixture::ReportsFixture()
@@ -34,6 +31,20 @@ ReportsFixture::ReportsFixture()
     poznan = TestData::addCity(c, {.name = QStringLiteral("Poznań"), .postcode = {}, .country = 1});
     krakow = TestData::addCity(c, {.name = QStringLiteral("Kraków"), .postcode = {}, .country = 1});
     berlin = TestData::addCity(c, {.name = QStringLiteral("Berlin"), .postcode = {}, .country = 2});
+    gdansk = TestData::addCity(c, {.name = QStringLiteral("Gdańsk"), .postcode = {}, .country = 1});
+    torun = TestData::addCity(c, {.name = QStringLiteral("Toruń"), .postcode = {}, .country = 1});
+
+    alfa = TestData::addContractor(c, QStringLiteral("ALFA"));
+    beta = TestData::addContractor(c, QStringLiteral("BETA"));
+    gamma = TestData::addContractor(c, QStringLiteral("GAMMA"));
+    transX = TestData::addContractor(c, QStringLiteral("TRANS-X"));
+    cargoY = TestData::addContractor(c, QStringLiteral("CARGO-Y"));
+    anna = TestData::addUser(c, {QStringLiteral("anna"), QStringLiteral("Anna"),
+                                 QStringLiteral("Nowak")});
+    bartek = TestData::addUser(c, {QStringLiteral("bartek"), QStringLiteral("Bartosz"),
+                                   QStringLiteral("Wiśniewski")});
+    celina = TestData::addUser(c, {QStringLiteral("celina"), QStringLiteral("Celina"),
+                                   QStringLiteral("Kowalska")});
 }
 
 int ReportsFixture::addInvoice(const Invoice &invoice)
@@ -82,7 +93,7 @@ int ReportsFixture::addOrder(const Order &order)
     return record.GetMaxId();
 }
 
-PartnersSelection ReportsFixture::march()
+PartnersSelection ReportsFixture::partnersOfMarch()
 {
     PartnersSelection s;
     s.from = QDate(2026, 3, 1);
@@ -90,4 +101,79 @@ PartnersSelection ReportsFixture::march()
     s.fromText = QStringLiteral("2026-03-01");
     s.toText = QStringLiteral("2026-03-31");
     return s;
+}
+
+int ReportsFixture::addStatementOrder(const StatementOrder &order)
+{
+    TZlecenia_przychObj o(db.connection());
+    o.NUMER = order.number;
+    o.DATA = DateTime::fromDate(order.day);
+    o.IDKONTRAHENTA = order.client;
+    o.IDPRZEWOZNIK = order.carrier;
+    o.IDUSER = order.user;
+    o.IDMIASTO_OD = gdansk;
+    o.IDMIASTO_VIA = order.number % 2 == 0 ? torun : 0;
+    o.IDMIASTO_DO = krakow;
+    o.KWOTA = order.amount;
+    o.KM_LADOWNE = order.loadedKm;
+    o.STAWKA_KMLAD = order.loadedKmRate;
+    o.KOSZTRAZEM = order.cost;
+    o.NUMER_FAKT_PRZEW = order.carrierInvoice;
+    o.KWOTA_FAKT_PRZEW = order.carrierAmount;
+    o.DATA_FAKT_WYSTAWIENIA = DateTime::fromDate(order.carrierIssued);
+    o.DNI_FAKT = order.carrierDays;
+    o.NRRAMPY = order.carrierPaid ? 1 : 0;
+    o.ZAPLACONA_KWOTA = order.carrierPaidAmount;
+    EXPECT_TRUE(o.Insert());
+    return o.GetMaxId();
+}
+
+int ReportsFixture::addInvoice(const QString &number, int kind, const QDate &issued, int user,
+                               int client, std::initializer_list<Position> positions)
+{
+    TFakturyObj invoice(db.connection());
+    invoice.NUMER_PELNY = number;
+    invoice.ID_RODZAJ_DOK = kind;
+    invoice.DATA_WYSTAWIENIA = DateTime::fromDate(issued);
+    invoice.ID_WYSTAWIL = user;
+    invoice.ID_KONTRAHENTA = client;
+    EXPECT_TRUE(invoice.Insert());
+    const int key = invoice.GetMaxId();
+    TFaktury_pozycjeObj position(db.connection());
+    for (const Position &p : positions) {
+        position.ID_FAKTURY = key;
+        position.TRESC = QStringLiteral("Usługa transportowa");
+        position.ILOSC = p.quantity;
+        position.CENA_NETTO = p.price;
+        position.ID_VAT = 1;
+        EXPECT_TRUE(position.Insert());
+    }
+    return key;
+}
+
+void ReportsFixture::seedCompany()
+{
+    const auto day = [](int month, int day) { return QDate(2026, month, day); };
+    const auto add = [this](const StatementOrder &order) { addStatementOrder(order); };
+    add({.number = 1, .day = day(3, 2), .client = alfa, .carrier = transX, .user = anna,
+              .amount = 1234.56, .cost = 1000.0, .carrierInvoice = QStringLiteral("TX/1"),
+              .carrierAmount = 1000.0, .carrierIssued = day(3, 3), .carrierPaid = true});
+    add({.number = 2, .day = day(3, 5), .client = alfa, .carrier = transX, .user = bartek,
+              .amount = 0.40, .loadedKm = 100, .loadedKmRate = 2.345, .cost = 200.0});
+    add({.number = 3, .day = day(3, 10), .client = beta, .carrier = cargoY, .user = anna,
+              .amount = 3000.0, .cost = 2000.0, .carrierInvoice = QStringLiteral("CY/7"),
+              .carrierAmount = 2100.0, .carrierIssued = day(3, 12), .carrierDays = 7,
+              .carrierPaidAmount = 600.0});
+    add({.number = 4, .day = day(3, 15), .client = gamma, .carrier = own, .user = bartek,
+              .amount = 500.0, .cost = 600.0, .carrierInvoice = QStringLiteral("ZW/1"),
+              .carrierAmount = 100.0, .carrierIssued = day(3, 25)});
+    add({.number = 5, .day = day(4, 1), .client = alfa, .carrier = transX, .user = celina,
+              .amount = 999.0, .cost = 900.0});
+    add({.number = 6, .day = day(2, 20), .client = beta, .carrier = cargoY, .user = anna,
+              .amount = 800.0, .cost = 500.0});
+    addInvoice(QStringLiteral("001/03/2026"), 1, day(3, 5), anna, alfa,
+               {{1.0, 1235.0}, {2.0, 10.005}});
+    addInvoice(QStringLiteral("002/03/2026"), 1, day(3, 20), bartek, beta, {{1.0, 3000.0}});
+    addInvoice(QStringLiteral("K/03/2026"), 2, day(3, 21), bartek, beta, {{1.0, 50.0}});
+    addInvoice(QStringLiteral("001/04/2026"), 1, day(4, 2), anna, alfa, {{1.0, 70.0}});
 }

@@ -8,6 +8,7 @@
 #include <QWidget>
 
 #include <memory>
+#include <utility>
 
 // The demo company as the session of one form, given back to whatever the
 // session was when the form goes.

@@ -60,9 +60,20 @@ int demoKey(const QString &sql)
 
 std::unique_ptr<QWidget> firstPage(Report &report)
 {
+    return pageOf(report, false);
+}
+
+std::unique_ptr<QWidget> lastPage(Report &report)
+{
+    return pageOf(report, true);
+}
+
+std::unique_ptr<QWidget> pageOf(Report &report, bool last)
+{
     const std::vector<ReportPage> &pages = report.prepare();
+    const ReportPage &page = last ? pages.back() : pages.front();
     constexpr double dotsPerMm = 4.0;
-    const QSizeF sheet = pages.front().sizeMm;
+    const QSizeF sheet = page.sizeMm;
     QImage image(int(sheet.width() * dotsPerMm), int(sheet.height() * dotsPerMm),
                  QImage::Format_RGB32);
     // Fonts are sized by the image's resolution: it must be the one the
@@ -74,7 +85,7 @@ std::unique_ptr<QWidget> firstPage(Report &report)
     {
         QPainter painter(&image);
         painter.setRenderHint(QPainter::Antialiasing);
-        ReportPainter::paintPage(painter, pages.front(), dotsPerMm);
+        ReportPainter::paintPage(painter, page, dotsPerMm);
     }
     auto label = std::make_unique<QLabel>();
     label->setPixmap(QPixmap::fromImage(image));

@@ -15,6 +15,8 @@ Connection &demoCompany();
 int demoKey(const QString &sql);
 // The report's first page as the preview paints it.
 std::unique_ptr<QWidget> firstPage(Report &report);
+std::unique_ptr<QWidget> lastPage(Report &report);
+std::unique_ptr<QWidget> pageOf(Report &report, bool last);
 
 // Every group of shots adds itself to the book here; one line per group.
 void registerShots(ShotBook &book);
@@ -42,5 +44,6 @@ void addSiblingShots(ShotBook &book);
 // Road cards, the carrier's invoice and the carriers' invoice lists.
 void addCarrierShots(ShotBook &book);
 
-// The statement of issued invoices and the partners report, with their dialogs.
+// The statements of the register's statements menu, the statement of issued
+// invoices and the partners report, with their dialogs.
 void addStatementShots(ShotBook &book);

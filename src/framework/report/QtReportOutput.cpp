@@ -2,12 +2,14 @@
 
 #include "MessageService.h"
 #include "Report.h"
+#include "ReportCsvExport.h"
 #include "ReportError.h"
 #include "ReportPainter.h"
 
 #include <QApplication>
 #include <QPrintPreviewDialog>
 #include <QPrinter>
+#include <QToolBar>
 
 namespace {
 
@@ -45,6 +47,16 @@ bool QtReportOutput::preview(Report &report)
                          laidOut = false;
                          paintReporting(*target, report);
                      });
+    if (report.hasTable()) {
+        if (auto *toolBar = dialog.findChild<QToolBar *>()) {
+            toolBar->addSeparator();
+            QAction *csv = toolBar->addAction(QStringLiteral("Zapisz jako CSV"));
+            csv->setObjectName(QStringLiteral("acZapiszCsv"));
+            csv->setToolTip(QStringLiteral("Zapisz pozycje zestawienia do pliku CSV"));
+            QObject::connect(csv, &QAction::triggered, &dialog,
+                             [&dialog, &report] { ReportCsvExport::save(&dialog, report); });
+        }
+    }
     dialog.exec();
     return true;
 }

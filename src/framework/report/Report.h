@@ -6,6 +6,7 @@
 #include "ReportPage.h"
 #include "ReportPageSetup.h"
 #include "ReportSum.h"
+#include "ReportTable.h"
 
 #include <QString>
 
@@ -61,6 +62,12 @@ public:
     {
         m_beforePrint = std::move(beforePrint);
     }
+    // The report's lines as a table, for saving them to a spreadsheet from
+    // the preview; asked when the user saves, after the report was laid out.
+    void setTable(std::function<ReportTable()> table) { m_table = std::move(table); }
+    bool hasTable() const { return static_cast<bool>(m_table); }
+    ReportTable table() const { return m_table ? m_table() : ReportTable{}; }
+
     // Without rows a report prints its headers and summary, or nothing.
     bool printIfEmpty() const { return m_printIfEmpty; }
     void setPrintIfEmpty(bool print) { m_printIfEmpty = print; }
@@ -90,6 +97,7 @@ private:
     std::vector<std::unique_ptr<ReportSum>> m_sums;
     std::unique_ptr<ReportDataSource> m_dataSource;
     std::function<void()> m_beforePrint;
+    std::function<ReportTable()> m_table;
     bool m_printIfEmpty = true;
     std::vector<ReportPage> m_pages;
     int m_pageNumber = 0;

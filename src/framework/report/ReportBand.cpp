@@ -42,3 +42,8 @@ bool ReportBand::runBeforePrint()
         m_beforePrint(*this, print);
     return print;
 }
+
+void ReportBand::addDrawing(const QRectF &rectMm, DrawingFunction drawing)
+{
+    m_drawings.push_back({rectMm, std::move(drawing)});
+}

@@ -46,6 +46,16 @@ public:
     ReportLabel &label(const QString &name);
     const std::deque<ReportLabel> &labels() const { return m_labels; }
 
+    // A drawing asked for each time the band prints; none when it answers null.
+    using DrawingFunction = std::function<std::shared_ptr<const ReportDrawing>()>;
+    void addDrawing(const QRectF &rectMm, DrawingFunction drawing);
+    struct Drawing
+    {
+        QRectF rectMm;
+        DrawingFunction drawing;
+    };
+    const std::vector<Drawing> &drawings() const { return m_drawings; }
+
     void addLine(const QPointF &fromMm, const QPointF &toMm, double widthMm = 0.2);
     void addBox(const QRectF &rectMm, double widthMm = 0.2);
     const std::vector<ReportLineItem> &lines() const { return m_lines; }
@@ -76,6 +86,7 @@ private:
     std::deque<ReportLabel> m_labels;
     std::vector<ReportLineItem> m_lines;
     std::vector<ReportBoxItem> m_boxes;
+    std::vector<Drawing> m_drawings;
     BeforePrint m_beforePrint;
     bool m_enabled = true;
     bool m_forceNewPage = false;

@@ -75,6 +75,11 @@ struct ItemLine
     {
         return QStringLiteral("box ") + rect(item.rectMm) + QLatin1Char(' ') + mm(item.widthMm);
     }
+    QString operator()(const ReportDrawingItem &item) const
+    {
+        return QStringLiteral("drawing ") + rect(item.rectMm) + QLatin1Char(' ')
+            + quoted(item.drawing->description());
+    }
 };
 
 } // namespace
@@ -85,6 +90,16 @@ QStringList ReportPage::texts() const
     for (const ReportItem &item : items) {
         if (const auto *text = std::get_if<ReportTextItem>(&item))
             result << text->text;
+    }
+    return result;
+}
+
+std::vector<const ReportDrawingItem *> ReportPage::drawings() const
+{
+    std::vector<const ReportDrawingItem *> result;
+    for (const ReportItem &item : items) {
+        if (const auto *drawing = std::get_if<ReportDrawingItem>(&item))
+            result.push_back(drawing);
     }
     return result;
 }

@@ -8,8 +8,11 @@
 #include <QString>
 #include <QStringList>
 
+#include <memory>
 #include <variant>
 #include <vector>
+
+class QPainter;
 
 // The primitives a pre-rendered page is made of. All positions are in
 // millimetres from the top left corner of the sheet.
@@ -35,7 +38,26 @@ struct ReportBoxItem
     double widthMm = 0.2;
 };
 
-using ReportItem = std::variant<ReportTextItem, ReportLineItem, ReportBoxItem>;
+// A picture drawn into its box when the page is painted (a chart), at the
+// resolution of the device it is painted on.
+class ReportDrawing
+{
+public:
+    virtual ~ReportDrawing() = default;
+    // target is in the painter's device coordinates.
+    virtual void paint(QPainter &painter, const QRectF &target) const = 0;
+    // What it shows, in words: for a text dump of the page and for tests.
+    virtual QString description() const = 0;
+};
+
+struct ReportDrawingItem
+{
+    QRectF rectMm;
+    std::shared_ptr<const ReportDrawing> drawing;
+};
+
+using ReportItem
+    = std::variant<ReportTextItem, ReportLineItem, ReportBoxItem, ReportDrawingItem>;
 
 struct ReportPage
 {
@@ -46,6 +68,8 @@ struct ReportPage
     // The texts of the page in the order they were placed.
     QStringList texts() const;
     bool containsText(const QString &text) const { return texts().contains(text); }
+    // The drawings of the page in the order they were placed.
+    std::vector<const ReportDrawingItem *> drawings() const;
 };
 
 // One primitive a line, numbers with two decimals: stable enough to be

@@ -52,6 +52,12 @@ struct ItemPainter
         painter.setBrush(Qt::NoBrush);
         painter.drawRect(scaled(item.rectMm, dotsPerMm));
     }
+    void operator()(const ReportDrawingItem &item) const
+    {
+        painter.save();
+        item.drawing->paint(painter, scaled(item.rectMm, dotsPerMm));
+        painter.restore();
+    }
 };
 
 } // namespace

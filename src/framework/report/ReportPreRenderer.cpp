@@ -267,6 +267,11 @@ void ReportPreRenderer::place(const ReportBand &band, const QStringList &texts, 
         items.push_back(ReportLineItem{line.fromMm + origin, line.toMm + origin, line.widthMm});
     for (const ReportBoxItem &boxItem : band.boxes())
         items.push_back(ReportBoxItem{boxItem.rectMm.translated(origin), boxItem.widthMm});
+    for (const ReportBand::Drawing &drawing : band.drawings()) {
+        if (std::shared_ptr<const ReportDrawing> picture = drawing.drawing())
+            items.push_back(
+                ReportDrawingItem{drawing.rectMm.translated(origin), std::move(picture)});
+    }
     m_y += height;
 }
 

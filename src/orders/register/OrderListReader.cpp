@@ -3,7 +3,6 @@
 #include "DbError.h"
 #include "Format.h"
 #include "OrderListColumns.h"
-#include "OrderRevenue.h"
 #include "Statement.h"
 
 namespace {
@@ -33,15 +32,7 @@ OrderListReader::OrderListReader(const Statement &statement)
       m_pojazd(column("POJAZD")),
       m_numerObcaFak(column("NUMER_OBCA_FAK")),
       m_kosztRazem(column("KOSZTRAZEM")),
-      m_kwota(column("KWOTA")),
-      m_kmLadowne(column("KM_LADOWNE")),
-      m_stawkaKmLad(column("STAWKA_KMLAD")),
-      m_kmPuste(column("KM_PUSTE")),
-      m_stawkaKmPusty(column("STAWKA_KMPUSTY")),
-      m_iloscGodzin(column("ILOSC_GODZIN")),
-      m_stawkaGodziny(column("STAWKA_GODZINY")),
-      m_paletyIlosc(column("PALETYILOSC")),
-      m_stawkaPalety(column("STAWKA_PALETY")),
+      m_revenue(statement),
       m_kwotaObcaFakt(column("KWOTA_OBCA_FAKT")),
       m_operator(column("OPERATOR")),
       m_filtr1(column("FILTR1")),
@@ -67,17 +58,7 @@ OrderListRow OrderListReader::read() const
     row.key = st.integer(m_key);
     row.closed = st.integer(m_zamkniete) != 0;
 
-    OrderRevenueFigures figures;
-    figures.wholeAmount = st.integer(m_kwota);
-    figures.loadedKm = st.integer(m_kmLadowne);
-    figures.loadedKmRate = st.number(m_stawkaKmLad);
-    figures.emptyKm = st.number(m_kmPuste);
-    figures.emptyKmRate = st.number(m_stawkaKmPusty);
-    figures.hours = st.number(m_iloscGodzin);
-    figures.hourRate = st.number(m_stawkaGodziny);
-    figures.pallets = st.integer(m_paletyIlosc);
-    figures.palletRate = st.number(m_stawkaPalety);
-    row.revenue = orderRevenue(figures);
+    row.revenue = m_revenue.revenue(st);
     const double cost = st.number(m_kosztRazem);
     const int invoiceNumber = st.integer(m_nrFaktury);
 

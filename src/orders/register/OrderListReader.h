@@ -1,5 +1,7 @@
 #pragma once
 
+#include "OrderRevenueColumns.h"
+
 #include <QStringList>
 
 class Statement;
@@ -29,7 +31,7 @@ private:
     const Statement &m_statement;
     int m_key, m_numer, m_kontrahent, m_przewoznik, m_kierowca, m_numerObcy, m_data;
     int m_miastoOd, m_miastoVia, m_miastoDo, m_nrFaktury, m_nrKarty, m_nrListu, m_pojazd;
-    int m_numerObcaFak, m_kosztRazem, m_kwota, m_kmLadowne, m_stawkaKmLad, m_kmPuste;
-    int m_stawkaKmPusty, m_iloscGodzin, m_stawkaGodziny, m_paletyIlosc, m_stawkaPalety;
+    int m_numerObcaFak, m_kosztRazem;
+    OrderRevenueColumns m_revenue;
     int m_kwotaObcaFakt, m_operator, m_filtr1, m_idKontrahent, m_idPrzewoznik, m_zamkniete;
 };

@@ -119,11 +119,13 @@ private:
     void acDrukujExecute();
     void BitBtn6Click();
     void buildStatementsMenu();
+    void rateDifferences();
     void acKartaExecute();
     void BtnFakturaObcaClick();
     void acZestawienieExecute();
     // The carrier of the selected order, 0 without a selection.
     int selectedCarrier() const;
+    int selectedClient() const;
 
     // The order editor, modally; returns its modal result.
     int runEditor(int orderKey, int mode);

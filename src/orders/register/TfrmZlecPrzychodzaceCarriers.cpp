@@ -17,9 +17,15 @@
 #include "TfrmFaktPrzew.h"
 #include "TfrmKartaDrogowa.h"
 #include "TfrmRepWspolnicy.h"
+#include "TfrmWybierzDatyAndKontrahenta.h"
+#include "TfrmWybierzDatyAndUsera1.h"
+#include "TfrmWyborKontrachentDaty.h"
+#include "TfrmWyborKontrachentDaty1.h"
 #include "TfrmWydrukiPrzewoz.h"
+#include "TfrmZestawienieRoznicStawek2.h"
 
 #include <QAction>
+#include <QCheckBox>
 #include <QMenu>
 
 #include <functional>
@@ -35,6 +41,15 @@ void tellOrderGone(const QString &caption)
     Messages::inform(caption, GoneText, MessageService::Icon::Warning);
 }
 
+// The client or carrier of an order as the view names them; 0 for no order.
+int contractorOf(int orderKey, int TVzlecenia_przychObj::*contractor)
+{
+    Connection *database = session().Database;
+    if (orderKey == 0 || !database)
+        return 0;
+    return TVzlecenia_przychObj(*database).SelectById(orderKey).*contractor;
+}
+
 } // namespace
 
 void TfrmZlecPrzychodzace::buildStatementsMenu()
@@ -47,6 +62,9 @@ void TfrmZlecPrzychodzace::buildStatementsMenu()
         const auto list = TfrmRODefault::create<TfrmWydrukiPrzewoz>(this, selectedCarrier(), mode);
         list->showModal();
     };
+    const auto userStatement = [this](TfrmWybierzDatyAndUsera1::Kind kind) {
+        TfrmRODefault::create<TfrmWybierzDatyAndUsera1>(this, kind, session().UserID)->showModal();
+    };
     struct Entry
     {
         const char *caption;
@@ -55,6 +73,15 @@ void TfrmZlecPrzychodzace::buildStatementsMenu()
     };
     const Entry entries[] = {
         {"Wystawione faktury", [this] { IssuedInvoicesStatement::run(this); }},
+        {"Kwoty dla kontrahenta - przychód, zysk",
+         [this] {
+             TfrmRODefault::create<TfrmWyborKontrachentDaty>(this, selectedClient())->showModal();
+         }},
+        {"Kwota stawki  na przewoźnika - koszt ",
+         [this] {
+             TfrmRODefault::create<TfrmWyborKontrachentDaty1>(this, selectedCarrier())
+                 ->showModal();
+         }},
         {"Faktury przewożnika niezapłacone", [=] { carrierList(CarrierInvoiceList::Unpaid); }},
         {"Faktury przewoźnika zapłacone", [=] { carrierList(CarrierInvoiceList::Paid); }},
         {"Zestawienie faktur przewoźników", [=] { carrierList(CarrierInvoiceList::Issued); }},
@@ -63,15 +90,38 @@ void TfrmZlecPrzychodzace::buildStatementsMenu()
              if (Connection *database = session().Database)
                  TFrmNiezaplaconeList(*database).Preview();
          }},
+        {"Faktury przewożnika i własne", [this] { rateDifferences(); }},
         // Hidden, as it has always been: the partners report has its own
         // entry point.
         {"Zlecenia w/g spedytora kraj-zagranica", [this] { TfrmRepWspolnicy::run(this); }, false},
+        {"Zestawienie na kraj  stawka/spedytor",
+         [=] { userStatement(TfrmWybierzDatyAndUsera1::Rates); }},
+        {"Zestawienie na kraj faktura/spedytor",
+         [=] { userStatement(TfrmWybierzDatyAndUsera1::Invoices); }},
+        {"Faktura Obca\\zapłata..",
+         [=] { userStatement(TfrmWybierzDatyAndUsera1::CarrierInvoices); }},
     };
     for (const Entry &entry : entries) {
         QAction *action = pmZestaw->addAction(QString::fromUtf8(entry.caption));
         action->setVisible(entry.visible);
         connect(action, &QAction::triggered, this, entry.run);
     }
+}
+
+void TfrmZlecPrzychodzace::rateDifferences()
+{
+    const auto dialog = TfrmRODefault::create<TfrmWybierzDatyAndKontrahenta>(this);
+    // The statement shows the outside carriers and the own fleet apart,
+    // so there is no executor to choose.
+    dialog->cbWlasny->hide();
+    Connection *database = session().Database;
+    if (dialog->showModal() != mrOk || !database)
+        return;
+    TfrmZestawienieRoznicStawek2 statement(*database, {dialog->from(), dialog->to()});
+    if (dialog->previewFirst())
+        statement.Preview();
+    else
+        statement.Print();
 }
 
 void TfrmZlecPrzychodzace::acZestawienieExecute()
@@ -82,11 +132,12 @@ void TfrmZlecPrzychodzace::acZestawienieExecute()
 
 int TfrmZlecPrzychodzace::selectedCarrier() const
 {
-    const int key = selectedOrder();
-    Connection *database = session().Database;
-    if (key == 0 || !database)
-        return 0;
-    return TVzlecenia_przychObj(*database).SelectById(key).IDPRZEWOZNIK;
+    return contractorOf(selectedOrder(), &TVzlecenia_przychObj::IDPRZEWOZNIK);
+}
+
+int TfrmZlecPrzychodzace::selectedClient() const
+{
+    return contractorOf(selectedOrder(), &TVzlecenia_przychObj::IDKONTRAHENT);
 }
 
 void TfrmZlecPrzychodzace::acKartaExecute()

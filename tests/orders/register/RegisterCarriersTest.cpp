@@ -10,10 +10,15 @@
 #include "TDateEdit.h"
 #include "TNumberEdit.h"
 #include "TRadioGroup.h"
+#include "TestData.h"
 #include "TframeListView.h"
 #include "TfrmFaktPrzew.h"
 #include "TfrmKartaDrogowa.h"
+#include "TfrmWybierzDatyAndKontrahenta.h"
+#include "TfrmWybierzDatyAndUsera1.h"
 #include "TfrmWydrukiPrzewoz.h"
+#include "TfrmWyborKontrachentDaty.h"
+#include "TfrmWyborKontrachentDaty1.h"
 #include "WindowScript.h"
 
 #include <QAction>
@@ -21,6 +26,7 @@
 #include <QComboBox>
 #include <QCoreApplication>
 #include <QFile>
+#include <QLabel>
 #include <QLineEdit>
 #include <QMenu>
 #include <QRadioButton>
@@ -216,11 +222,17 @@ TEST_F(RegisterCarriers, TheStatementsMenuOpensTheCarriersListsForTheSelectedCar
     for (const QAction *entry : form->pmZestaw->actions())
         captions << entry->text();
     EXPECT_EQ(captions, (QStringList{QStringLiteral("Wystawione faktury"),
+                                     QStringLiteral("Kwoty dla kontrahenta - przychód, zysk"),
+                                     QStringLiteral("Kwota stawki  na przewoźnika - koszt "),
                                      QStringLiteral("Faktury przewożnika niezapłacone"),
                                      QStringLiteral("Faktury przewoźnika zapłacone"),
                                      QStringLiteral("Zestawienie faktur przewoźników"),
                                      QStringLiteral("Płatność - przewoźnicy"),
-                                     QStringLiteral("Zlecenia w/g spedytora kraj-zagranica")}));
+                                     QStringLiteral("Faktury przewożnika i własne"),
+                                     QStringLiteral("Zlecenia w/g spedytora kraj-zagranica"),
+                                     QStringLiteral("Zestawienie na kraj  stawka/spedytor"),
+                                     QStringLiteral("Zestawienie na kraj faktura/spedytor"),
+                                     QStringLiteral("Faktura Obca\\zapłata..")}));
     QTest::mouseClick(form->btnZest, Qt::LeftButton);
     EXPECT_TRUE(form->pmZestaw->isVisible());
     form->pmZestaw->hide();
@@ -236,14 +248,65 @@ TEST_F(RegisterCarriers, TheStatementsMenuOpensTheCarriersListsForTheSelectedCar
                 QTest::mouseClick(dialog.btnCancel, Qt::LeftButton);
                 return dialog.result();
             });
-        form->pmZestaw->actions().at(i + 1)->trigger();
+        form->pmZestaw->actions().at(3 + i)->trigger();
     }
     EXPECT_TRUE(scriptedModalRunner().allRun());
 
     QTemporaryDir dir;
     ReportOutputs::Scoped<PdfFileReportOutput> files{dir.path()};
-    form->pmZestaw->actions().at(4)->trigger();
+    form->pmZestaw->actions().at(6)->trigger();
     ASSERT_EQ(files->deliveries().size(), 1u);
     EXPECT_EQ(files->deliveries()[0].kind, PdfFileReportOutput::Kind::Preview);
     EXPECT_EQ(files->deliveries()[0].title, " Faktury przewoźników niezapłacone ");
+}
+
+TEST_F(RegisterCarriers, TheStatementsOfClientsCarriersAndDispatchersStartFromTheSelectedOrder)
+{
+    const int client = TestData::addContractor(db.connection(), QStringLiteral("KLIENT"));
+    const int carrier = TestData::addContractor(db.connection(), QStringLiteral("PRZEWOŹNIK"));
+    const int key = addOrder([=](TZlecenia_przychObj &o) {
+        o.IDKONTRAHENTA = client;
+        o.IDPRZEWOZNIK = carrier;
+    });
+    auto form = openRegister();
+    select(*form, key);
+
+    scriptedModalRunner().expect<TfrmWyborKontrachentDaty>([](TfrmWyborKontrachentDaty &dialog) {
+        EXPECT_EQ(dialog.cbWybor->currentText(), "KLIENT");
+        QTest::mouseClick(dialog.btnCancel, Qt::LeftButton);
+        return dialog.result();
+    });
+    form->pmZestaw->actions().at(1)->trigger();
+    scriptedModalRunner().expect<TfrmWyborKontrachentDaty1>([](TfrmWyborKontrachentDaty1 &dialog) {
+        EXPECT_EQ(dialog.cbWybor->currentText(), "PRZEWOŹNIK");
+        QTest::mouseClick(dialog.btnCancel, Qt::LeftButton);
+        return dialog.result();
+    });
+    form->pmZestaw->actions().at(2)->trigger();
+    using Kind = TfrmWybierzDatyAndUsera1::Kind;
+    const Kind kinds[] = {Kind::Rates, Kind::Invoices, Kind::CarrierInvoices};
+    for (int i = 0; i < 3; ++i) {
+        scriptedModalRunner().expect<TfrmWybierzDatyAndUsera1>(
+            [kind = kinds[i]](TfrmWybierzDatyAndUsera1 &dialog) {
+                EXPECT_EQ(dialog.kind(), kind);
+                EXPECT_EQ(dialog.lblHeader->text(), TfrmWybierzDatyAndUsera1::title(kind));
+                QTest::mouseClick(dialog.btnCancel, Qt::LeftButton);
+                return dialog.result();
+            });
+        form->pmZestaw->actions().at(9 + i)->trigger();
+    }
+    EXPECT_TRUE(scriptedModalRunner().allRun());
+
+    // The rate differences: the period, no executor to choose, a preview.
+    QTemporaryDir dir;
+    ReportOutputs::Scoped<PdfFileReportOutput> files{dir.path()};
+    scriptedModalRunner().expect<TfrmWybierzDatyAndKontrahenta>(
+        [](TfrmWybierzDatyAndKontrahenta &dialog) {
+            EXPECT_FALSE(dialog.cbWlasny->isVisible());
+            QTest::mouseClick(dialog.btnOk, Qt::LeftButton);
+            return dialog.result();
+        });
+    form->pmZestaw->actions().at(7)->trigger();
+    ASSERT_EQ(files->deliveries().size(), 1u);
+    EXPECT_TRUE(files->deliveries()[0].title.startsWith("Faktury przewożnika i własne od "));
 }

@@ -1,0 +1,10 @@
+#include "TfrmPrintObrotyNaUseraZagr.h"
+
+TfrmPrintObrotyNaUseraZagr::TfrmPrintObrotyNaUseraZagr(Connection &connection,
+                                                       const ReportPeriod &period, int user)
+    : StatementReport(connection, UserTurnoverStatement::layout(period),
+                      [&connection, period, user] {
+                          return UserTurnoverStatement::read(connection, period, user);
+                      })
+{
+}
