@@ -22,6 +22,7 @@ bench: build
 	$(BUILD)/bin/haulix-bench-register
 	$(BUILD)/bin/haulix-bench-printouts
 	$(BUILD)/bin/haulix-bench-carriers
+	$(BUILD)/bin/haulix-bench-invoicing
 
 clean:
 	rm -rf $(BUILD)

@@ -5,11 +5,13 @@
 //   haulix-admin summary PATH              what a database holds
 //   haulix-admin demo                      the demo database in the user's data
 //                                          directory, created and seeded on first use
+//   haulix-admin invoice PATH --client ...  a client's orders of a period onto one invoice
 
 #include "Connection.h"
 #include "DbError.h"
 #include "DemoDatabase.h"
 #include "DemoSeeder.h"
+#include "InvoiceCommand.h"
 #include "Schema.h"
 
 #include <QCoreApplication>
@@ -39,7 +41,8 @@ int usage()
              "  haulix-admin create ŚCIEŻKA\n"
              "  haulix-admin seed ŚCIEŻKA [--orders N]\n"
              "  haulix-admin summary ŚCIEŻKA\n"
-             "  haulix-admin demo\n";
+             "  haulix-admin demo\n"
+          << InvoiceCommand::usage();
     err().flush();
     return 2;
 }
@@ -125,6 +128,8 @@ int main(int argc, char **argv)
             printSummary(args[1]);
             return 0;
         }
+        if (command == QLatin1String("invoice"))
+            return InvoiceCommand::run(args.mid(1), out(), err());
         if (command == QLatin1String("demo") && args.size() == 1) {
             const QString path = DemoDatabase::ensure([](const QString &message) {
                 out() << message << '\n';

@@ -1,7 +1,7 @@
 #include "CarrierInvoice.h"
 #include "CarrierInvoiceList.h"
+#include "CompanyForm.h"
 #include "Connection.h"
-#include "SessionContext.h"
 #include "ShotBook.h"
 #include "Shots.h"
 #include "TFrmNiezaplaconeList.h"
@@ -11,39 +11,10 @@
 #include "TfrmFaktPrzew.h"
 #include "TfrmKartaDrogowa.h"
 #include "TfrmWydrukiPrzewoz.h"
-#include "Transaction.h"
 
 #include <QDate>
 
 namespace {
-
-// The demo company as the session of one form, given back to whatever the
-// session was when the form goes.
-class CompanySession : public QObject
-{
-public:
-    explicit CompanySession(QWidget *form) : QObject(form), m_previous(session())
-    {
-        static Transaction transaction(demoCompany());
-        setSession(1, &demoCompany(), &transaction);
-    }
-    ~CompanySession() override
-    {
-        setSession(m_previous.UserID, m_previous.Database, m_previous.Transaction);
-    }
-
-private:
-    SessionContext m_previous;
-};
-
-template <class Form, class... Args>
-std::unique_ptr<Form> formOfCompany(Args &&...args)
-{
-    auto form = std::make_unique<Form>(std::forward<Args>(args)...);
-    new CompanySession(form.get());
-    form->ensureCreated();
-    return form;
-}
 
 std::unique_ptr<QWidget> roadCardChoice()
 {

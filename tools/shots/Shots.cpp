@@ -12,4 +12,5 @@ void registerShots(ShotBook &book)
     addPrintoutShots(book);
     addSiblingShots(book);
     addCarrierShots(book);
+    addInvoicingShots(book);
 }

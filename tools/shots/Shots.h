@@ -41,3 +41,6 @@ void addSiblingShots(ShotBook &book);
 
 // Road cards, the carrier's invoice and the carriers' invoice lists.
 void addCarrierShots(ShotBook &book);
+
+// Invoicing of orders: the client choice, the orders and the invoice header.
+void addInvoicingShots(ShotBook &book);
