@@ -129,9 +129,9 @@ void TfrmFakturowanie::buildFields(QWidget *parent)
         const int row = layout->rowCount();
         auto *label = new QLabel(QString::fromUtf8(caption), parent);
         label->setBuddy(widget);
-        label->setWordWrap(true);
         layout->addWidget(label, row, 0, Qt::AlignTop);
-        layout->addWidget(widget, row, 1);
+        const Qt::Alignment narrow = widget == seIloscDni ? Qt::AlignLeft : Qt::Alignment();
+        layout->addWidget(widget, row, 1, narrow);
     }
     // Long client names and accounts must not widen the dialog.
     for (QComboBox *combo : {cbDokument, cbKontrahenci, cbSposobZaplaty, cbKonto, CBKsiegowe}) {
@@ -139,7 +139,7 @@ void TfrmFakturowanie::buildFields(QWidget *parent)
         combo->setMinimumContentsLength(20);
     }
     layout->setColumnStretch(1, 1);
-    layout->setColumnMinimumWidth(0, 150);
+    seIloscDni->setFixedWidth(70);
     layout->setRowStretch(layout->rowCount(), 1);
 }
 
