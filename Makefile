@@ -23,6 +23,7 @@ bench: build
 	$(BUILD)/bin/haulix-bench-printouts
 	$(BUILD)/bin/haulix-bench-carriers
 	$(BUILD)/bin/haulix-bench-statements
+	$(BUILD)/bin/haulix-bench-invoicing
 
 # haulix_<version>_amd64.deb in the build directory, from the programs built there.
 package: build

@@ -9,6 +9,7 @@
 //   haulix-admin restore FILE.fbk NEWDB    a database from a copy, never over another
 //   haulix-admin server-setup PATH         a database on a Firebird server for the
 //                                          workstations, with a user of their own
+//   haulix-admin invoice PATH --client ...  a client's orders of a period onto one invoice
 
 #include "CommandArguments.h"
 #include "Connection.h"
@@ -16,6 +17,7 @@
 #include "DbError.h"
 #include "DemoDatabase.h"
 #include "DemoSeeder.h"
+#include "InvoiceCommand.h"
 #include "Schema.h"
 #include "ServerSetup.h"
 
@@ -48,7 +50,8 @@ int usage()
              "  haulix-admin seed ŚCIEŻKA [--orders N]\n"
              "  haulix-admin summary ŚCIEŻKA\n"
              "  haulix-admin demo\n"
-             "  haulix-admin backup BAZA PLIK.fbk [--login PLIK]\n"
+          << InvoiceCommand::usage()
+          << "  haulix-admin backup BAZA PLIK.fbk [--login PLIK]\n"
              "  haulix-admin restore PLIK.fbk NOWA_BAZA [--login PLIK]\n"
              "  haulix-admin server-setup ŚCIEŻKA [--from BAZA] [--server HOST[/PORT]]\n"
              "                            [--admin PLIK] [--login PLIK]\n"
@@ -208,6 +211,8 @@ int main(int argc, char **argv)
             printSummary(args[1]);
             return 0;
         }
+        if (command == QLatin1String("invoice"))
+            return InvoiceCommand::run(args.mid(1), out(), err());
         for (const Command &known : OptionCommands) {
             if (command != QLatin1String(known.name))
                 continue;

@@ -44,10 +44,13 @@ void InvoicePrinting::printInvoiceOfOrder(Connection &connection, int orderKey)
         MessageService::Yes | MessageService::No | MessageService::Cancel, MessageService::Yes);
     if (answer == MessageService::Cancel)
         return;
-    const bool preview = answer == MessageService::Yes;
+    showInvoice(connection, invoiceKey, answer == MessageService::Yes, perKilometre);
+}
+
+void InvoicePrinting::showInvoice(Connection &connection, int invoiceKey, bool preview,
+                                  bool perKilometre)
+{
     TfrmRachunekPL invoice(connection, invoiceKey, perKilometre);
-    // An invoice that could not be laid out has said why; its attachment
-    // would only say it again.
     if (!(preview ? invoice.Preview() : invoice.Print()))
         return;
     TfrmZalacznik attachment(connection, invoiceKey);

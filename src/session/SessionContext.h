@@ -14,6 +14,11 @@ struct SessionContext
     qint32 UserID = 0;
     Connection *Database = nullptr;
     ::Transaction *Transaction = nullptr;
+    // Whether the last invoicing of the session was for an order carried
+    // by the company itself. Not handed over by the host: it lives as long
+    // as the module is loaded and is false until the first invoicing. The
+    // invoice header dialog proposes its revenue account from it.
+    bool OwnFleet = false;
 
     // The host's transaction. The host hands one to every entry point, and
     // every program or test that opens the module's forms does the same;

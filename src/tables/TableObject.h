@@ -27,8 +27,9 @@
 //
 // Operations a class does not have do not compile for it. The guarded step
 // of each operation catches every failure, shows the table's message, logs
-// it and goes on: Insert/Update/Delete return as if nothing happened and a
-// failed select returns an empty list (or an empty record).
+// it and goes on: Insert/Update/Delete return false, so that work which
+// must be all-or-nothing can undo its scope, and a failed select returns
+// an empty list (or an empty record).
 template <class Derived>
 class TableObject
 {
@@ -60,7 +61,8 @@ public:
         });
     }
 
-    void Update()
+    // False after a failure, which has been shown and logged already.
+    bool Update()
     {
         const auto &d = Derived::description();
         Statement st(*m_connection);
@@ -68,16 +70,17 @@ public:
             st.add(line);
         bindKey(st);
         bindColumns(st);
-        guarded(TableStatements::Operation::Update, [&] { st.exec(); });
+        return guarded(TableStatements::Operation::Update, [&] { st.exec(); });
     }
 
-    void Delete()
+    // False after a failure, which has been shown and logged already.
+    bool Delete()
     {
         const auto &d = Derived::description();
         Statement st(*m_connection);
         st.add(TableStatements::deleteLine(d.info.table, d.info.key));
         bindKey(st);
-        guarded(TableStatements::Operation::Delete, [&] { st.exec(); });
+        return guarded(TableStatements::Operation::Delete, [&] { st.exec(); });
     }
 
     std::vector<Derived> SelectAll(const QString &orderBy = QString()) const

@@ -1,5 +1,6 @@
 // Two processes on one database file, as two workstations: the embedded
 // engine in SuperClassic mode locks across processes as a server does.
+#include "OrderInvoicingFixture.h"
 #include "TestDatabase.h"
 
 #include <QProcess>
@@ -137,4 +138,44 @@ TEST(TwoWorkstations, PlacesOpenedAtTheSameTimeAreEachTheirOwnOrders)
             ++foreign;
     }
     EXPECT_EQ(foreign, 0);
+}
+
+class TwoWorkstationsInvoicing : public OrderInvoicingFixture
+{
+};
+
+TEST_F(TwoWorkstationsInvoicing, FiftyInvoicesEachAtOnceGetAHundredDistinctNumbers)
+{
+    constexpr int Days = 50;
+    for (int day = 0; day < Days; ++day) {
+        for (int client : {ClientA, ClientB}) {
+            addOrder([&](TZlecenia_przychObj &o) {
+                o.DATA = DateTime::fromDate(QDate(2026, 1, 1).addDays(day));
+                o.IDKONTRAHENTA = client;
+            });
+        }
+    }
+    const QString count = QString::number(Days);
+    const auto issued = runBoth(
+        {QStringLiteral("invoices"), db.path(), count, QString::number(ClientA)},
+        {QStringLiteral("invoices"), db.path(), count, QString::number(ClientB)});
+    ASSERT_EQ(issued.size(), 2u * Days);
+    std::set<int> keys;
+    std::set<int> numbers;
+    for (const auto &[key, number] : issued) {
+        keys.insert(key);
+        numbers.insert(number);
+    }
+    EXPECT_EQ(keys.size(), 2u * Days);
+    EXPECT_EQ(numbers.size(), 2u * Days);
+    EXPECT_EQ(*numbers.rbegin(), 2 * Days);
+    // Every order on exactly one invoice, of its own client, alone there.
+    EXPECT_EQ(db.scalar(QStringLiteral(
+                  "SELECT COUNT(*) FROM ZLECENIA_PRZYCH z JOIN FAKTURY f "
+                  "ON f.ID_FAKTURY = z.IDFAKTURY WHERE f.ID_KONTRAHENTA = z.IDKONTRAHENTA")),
+              QString::number(2 * Days));
+    EXPECT_EQ(db.scalar(QStringLiteral("SELECT COUNT(DISTINCT IDFAKTURY) FROM ZLECENIA_PRZYCH")),
+              QString::number(2 * Days));
+    EXPECT_EQ(db.scalar(QStringLiteral("SELECT COUNT(DISTINCT NR_KOLEJNY) FROM FAKTURY")),
+              QString::number(2 * Days));
 }

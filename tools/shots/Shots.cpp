@@ -13,4 +13,5 @@ void registerShots(ShotBook &book)
     addSiblingShots(book);
     addCarrierShots(book);
     addStatementShots(book);
+    addInvoicingShots(book);
 }

@@ -47,3 +47,5 @@ void addCarrierShots(ShotBook &book);
 // The statements of the register's statements menu, the statement of issued
 // invoices and the partners report, with their dialogs.
 void addStatementShots(ShotBook &book);
+// Invoicing of orders: the client choice, the orders and the invoice header.
+void addInvoicingShots(ShotBook &book);

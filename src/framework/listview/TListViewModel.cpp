@@ -4,6 +4,8 @@
 
 #include <QBrush>
 
+#include <algorithm>
+
 namespace {
 
 const QString &emptyText()
@@ -130,6 +132,47 @@ void TListViewModel::setImage(int row, int image)
     rowChanged(row, 0);
 }
 
+void TListViewModel::setCheckBoxes(bool on)
+{
+    m_checkBoxes = on;
+    repaintAll();
+}
+
+bool TListViewModel::isChecked(int row) const
+{
+    return m_rows.at(row).checked;
+}
+
+void TListViewModel::setChecked(int row, bool checked)
+{
+    m_rows.at(row).checked = checked;
+    rowChanged(row, 0);
+}
+
+void TListViewModel::changeChecks(CheckChange change)
+{
+    for (Row &row : m_rows) {
+        switch (change) {
+        case CheckChange::CheckAll:
+            row.checked = true;
+            break;
+        case CheckChange::UncheckAll:
+            row.checked = false;
+            break;
+        case CheckChange::Invert:
+            row.checked = !row.checked;
+            break;
+        }
+    }
+    if (!updating() && !m_rows.empty() && !m_columns.empty())
+        Q_EMIT dataChanged(index(0, 0), index(rows() - 1, 0), {Qt::CheckStateRole});
+}
+
+int TListViewModel::checkedCount() const
+{
+    return int(std::count_if(m_rows.begin(), m_rows.end(), [](const Row &r) { return r.checked; }));
+}
+
 int TListViewModel::findKey(int key) const
 {
     for (int row = 0; row < rows(); ++row) {
@@ -239,6 +282,10 @@ QVariant TListViewModel::data(const QModelIndex &index, int role) const
         if (index.column() == 0 && m_images && m_rows[index.row()].image >= 0)
             return m_images->icon(m_rows[index.row()].image);
         return {};
+    case Qt::CheckStateRole:
+        if (m_checkBoxes && index.column() == 0)
+            return m_rows[index.row()].checked ? Qt::Checked : Qt::Unchecked;
+        return {};
     case Qt::TextAlignmentRole:
         return m_columns[index.column()].alignment.toInt();
     case Qt::FontRole:
@@ -263,6 +310,24 @@ QVariant TListViewModel::headerData(int section, Qt::Orientation orientation, in
     if (role == Qt::DecorationRole && m_images && m_columns[section].image >= 0)
         return m_images->icon(m_columns[section].image);
     return {};
+}
+
+Qt::ItemFlags TListViewModel::flags(const QModelIndex &index) const
+{
+    Qt::ItemFlags flags = QAbstractTableModel::flags(index);
+    if (m_checkBoxes && index.isValid() && index.column() == 0)
+        flags |= Qt::ItemIsUserCheckable;
+    return flags;
+}
+
+bool TListViewModel::setData(const QModelIndex &index, const QVariant &value, int role)
+{
+    if (role != Qt::CheckStateRole || !m_checkBoxes || !index.isValid() || index.column() != 0
+        || index.row() >= rows())
+        return false;
+    m_rows[index.row()].checked = value.toInt() == Qt::Checked;
+    Q_EMIT dataChanged(index, index, {Qt::CheckStateRole});
+    return true;
 }
 
 void TListViewModel::rowChanged(int row, int column)

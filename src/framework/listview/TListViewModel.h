@@ -46,6 +46,17 @@ public:
     void setKey(int row, int key);
     int image(int row) const;
     void setImage(int row, int image);
+    // Rows with a check box before the caption, which the user ticks with
+    // the mouse or the space bar. Sorting carries the ticks with the rows.
+    bool checkBoxes() const { return m_checkBoxes; }
+    void setCheckBoxes(bool on);
+    bool isChecked(int row) const;
+    void setChecked(int row, bool checked);
+    enum class CheckChange { CheckAll, UncheckAll, Invert };
+    // Every row at once, with one repaint.
+    void changeChecks(CheckChange change);
+    int checkedCount() const;
+
     // The first position holding the key, -1 when none does.
     int findKey(int key) const;
     void removeRow(int row);
@@ -72,6 +83,8 @@ public:
     int columnCount(const QModelIndex &parent = QModelIndex()) const override;
     QVariant data(const QModelIndex &index, int role) const override;
     QVariant headerData(int section, Qt::Orientation orientation, int role) const override;
+    Qt::ItemFlags flags(const QModelIndex &index) const override;
+    bool setData(const QModelIndex &index, const QVariant &value, int role) override;
 
 private:
     struct Column
@@ -86,6 +99,7 @@ private:
         QStringList texts;
         int key = 0;
         int image = -1;
+        bool checked = false;
     };
 
     void rowChanged(int row, int column);
@@ -93,6 +107,7 @@ private:
     std::vector<Column> m_columns;
     std::vector<Row> m_rows;
     int m_updateDepth = 0;
+    bool m_checkBoxes = false;
     const TImageList *m_images = nullptr;
     std::function<int()> m_boldColumn;
     QFont m_boldFont;

@@ -48,4 +48,7 @@ void TSearchPanel::setPanelHeight(int height)
     setFixedHeight(height);
     // The panel may not be laid out yet; the rows must still fit it.
     resize(width(), height);
+    // Out of sight, its buttons must not take accelerators from the form
+    // ("S&zukaj" against "&Zapisz").
+    m_expandedPart->setVisible(height > CollapsedHeight);
 }

@@ -141,6 +141,11 @@ void TfrmZlecPrzychodzace::buildButtons(QWidget *parent)
     BitBtn12 = TBitBtn::create(QStringLiteral("Towary"), QStringLiteral("BitBtn12"), parent);
     BitBtn13 = TBitBtn::create(QStringLiteral("M.załadunku"), QStringLiteral("BitBtn13"), parent);
     BitBtn4 = TBitBtn::create(QStringLiteral("M.Rozladunku"), QStringLiteral("BitBtn4"), parent);
+    BitBtn2 = TBitBtn::create(QStringLiteral("&Fakturuj"), QStringLiteral("BitBtn2"), parent);
+    BitBtn11
+        = TBitBtn::create(QStringLiteral("Usuń fakturę"), QStringLiteral("BitBtn11"), parent);
+    // Removing invoices is for the administrator, who knows the key.
+    BitBtn11->setEnabled(false);
     BitBtn10
         = TBitBtn::create(QStringLiteral("Drukuj fakturę"), QStringLiteral("BitBtn10"), parent);
     BitBtn1
@@ -171,7 +176,9 @@ void TfrmZlecPrzychodzace::buildButtons(QWidget *parent)
     layout->addWidget(btnCenniki);
     auto *documents = new QHBoxLayout;
     rows->addLayout(documents);
+    documents->addWidget(BitBtn2);
     documents->addWidget(BitBtn10);
+    documents->addWidget(BitBtn11);
     documents->addWidget(BitBtn1);
     documents->addWidget(BtnFakturaObca);
     documents->addStretch(1);
@@ -221,12 +228,16 @@ void TfrmZlecPrzychodzace::buildActions()
         = action(QStringLiteral("Zaawansowana edycja"), QStringLiteral("acAdvancedEdit"));
     acAdvancedEdit->setShortcut(QKeySequence(Qt::CTRL | Qt::Key_A));
     Zamknij1 = action(QStringLiteral("Zamknij\\Otwórz"), QStringLiteral("Zamknij1"));
+    acFaktura = action(QStringLiteral("&Fakturuj"), QStringLiteral("acFaktura"));
     acPrintFra = action(QStringLiteral("Drukuj fakturę"), QStringLiteral("acPrintFra"));
+    auto *enableInvoiceRemoval
+        = action(QStringLiteral("Usuń fakturę"), QStringLiteral("acUsunFakture"));
+    enableInvoiceRemoval->setShortcut(QKeySequence(Qt::CTRL | Qt::SHIFT | Qt::Key_E));
     acDrukuj = action(QStringLiteral("D&rukuj zlecenie"), QStringLiteral("acDrukuj"));
     acKarta = action(QStringLiteral("&Generuj kartę"), QStringLiteral("acKarta"));
     acZestawienie = action(QStringLiteral("Zestawienie"), QStringLiteral("acZestawienie"));
 
-    for (QAction *withShortcut : {acShowDelete, acAdvancedEdit})
+    for (QAction *withShortcut : {acShowDelete, acAdvancedEdit, enableInvoiceRemoval})
         withShortcut->setShortcutContext(Qt::WidgetWithChildrenShortcut);
 
     connect(acDodaj, &QAction::triggered, this, &TfrmZlecPrzychodzace::acDodajExecute);
@@ -247,6 +258,10 @@ void TfrmZlecPrzychodzace::buildActions()
     connect(acAdvancedEdit, &QAction::triggered, this,
             &TfrmZlecPrzychodzace::acAdvancedEditExecute);
     connect(Zamknij1, &QAction::triggered, this, &TfrmZlecPrzychodzace::Zamknij1Click);
+    connect(acFaktura, &QAction::triggered, this, &TfrmZlecPrzychodzace::acFakturaExecute);
+    connect(enableInvoiceRemoval, &QAction::triggered, BitBtn11,
+            [this] { BitBtn11->setEnabled(true); });
+    connect(BitBtn11, &QPushButton::clicked, this, &TfrmZlecPrzychodzace::BitBtn11Click);
     connect(acPrintFra, &QAction::triggered, this, &TfrmZlecPrzychodzace::acPrintFraExecute);
     connect(acDrukuj, &QAction::triggered, this, &TfrmZlecPrzychodzace::acDrukujExecute);
     connect(acKarta, &QAction::triggered, this, &TfrmZlecPrzychodzace::acKartaExecute);
@@ -261,6 +276,7 @@ void TfrmZlecPrzychodzace::buildActions()
     linkButton(BitBtn12, acTowary);
     linkButton(BitBtn13, acMiejsceZaladunku);
     linkButton(BitBtn4, acMiejscaRozladunku);
+    linkButton(BitBtn2, acFaktura);
     linkButton(BitBtn10, acPrintFra);
     linkButton(BitBtn1, acDrukuj);
     linkButton(btnKarta, acKarta);

@@ -57,6 +57,8 @@ public:
     TBitBtn *BitBtn12;    // "Towary"
     TBitBtn *BitBtn13;    // "M.załadunku"
     TBitBtn *BitBtn4;     // "M.Rozladunku"
+    TBitBtn *BitBtn2;     // "&Fakturuj"
+    TBitBtn *BitBtn11;    // "Usuń fakturę": enabled by Ctrl+Shift+E
     TBitBtn *BitBtn10;    // "Drukuj fakturę"
     TBitBtn *BitBtn1;     // "D&rukuj zlecenie"
     TBitBtn *BitBtn6;     // "&Kilometry"
@@ -80,6 +82,7 @@ public:
     QAction *acUsunLadunek;
     QAction *acAdvancedEdit;   // Ctrl+A
     QAction *Zamknij1;         // popup "Zamknij\Otwórz"
+    QAction *acFaktura;        // invoicing, of the selected order's client
     QAction *acPrintFra;       // the selected order's invoice and attachment
     QAction *acDrukuj;         // the selected order's transport order
     QAction *acKarta;          // the selected order onto a road card
@@ -115,6 +118,8 @@ private:
     void acAdvancedEditExecute();
     void Zamknij1Click();
     void btnCennikiClick();
+    void acFakturaExecute();
+    void BitBtn11Click();
     void acPrintFraExecute();
     void acDrukujExecute();
     void BitBtn6Click();

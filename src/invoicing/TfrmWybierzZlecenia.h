@@ -1,0 +1,73 @@
+#pragma once
+
+#include "TfrmRODefault.h"
+
+class QButtonGroup;
+class QCheckBox;
+class QGroupBox;
+class QLabel;
+class QLineEdit;
+class QRadioButton;
+class TBitBtn;
+class TDateEdit;
+class TframeListView;
+
+// Invoicing of orders: the orders loaded within the range that have no
+// invoice yet, of one client or of all, with check boxes. "&Zafakturuj"
+// puts the checked orders on one invoice through the header dialog
+// TfrmFakturowanie, all or nothing; the last invoice made here can be
+// printed, previewed and removed again.
+class TfrmWybierzZlecenia : public TfrmRODefault
+{
+    Q_OBJECT
+
+public:
+    // clientKey 0 or less lists the orders of every client; orderKey is
+    // the order the dispatcher stood on, selected when listed.
+    TfrmWybierzZlecenia(QWidget *owner, int clientKey, int orderKey);
+
+    // The keys of the checked orders, in list order.
+    std::vector<int> checkedOrders() const;
+    // The key shown in edfak, 0 when none.
+    int lastInvoice() const;
+
+    TDateEdit *deOd;                  // "od:"
+    TDateEdit *deDo;                  // "do:"
+    TBitBtn *btnOdswiez;              // "Odśwież"
+    TframeListView *frameListView1;   // the orders, with check boxes
+    TBitBtn *btnZaznaczWszystko;      // "Zaznacz wszystko"
+    TBitBtn *btnOdznaczWszystko;      // "Odznacz wszystko"
+    TBitBtn *btnOdwrocZaznaczenie;    // "Odwróć zaznaczenie"
+    QGroupBox *gbMiesiac;             // "Miesiąc Rozliczeniowy"
+    QRadioButton *RbWystawienie;      // "Data Wystawienia", the default
+    QRadioButton *RbSp;               // "Data Sprzedazy"
+    QCheckBox *cbZalacznik;           // "Załacznik ", checked
+    QGroupBox *gbKopie;               // "Orginał + kopia"
+    QCheckBox *cbKopie0;
+    QCheckBox *cbKopie1;              // the default
+    QCheckBox *cbKopie2;
+    QCheckBox *cbKopie3;
+    QGroupBox *gbOstatnia;            // "Ostatnia  Faktura "
+    QLabel *Label6;                   // its full number
+    QLineEdit *edfak;                 // its key
+    TBitBtn *btnDrukuj;               // "&Drukuj": the invoice, then its attachment
+    TBitBtn *btnPodglad;              // "&Podglad": both in the preview
+    TBitBtn *btnUsun;                 // "&Usuń": removes the last invoice
+
+protected:
+    void FormCreate() override;
+    void LoadLVData() override;
+
+private:
+    void buildTop(QWidget *parent);
+    void buildChecks(QWidget *parent);
+    QWidget *buildSide(QWidget *parent);
+    void btnZafakturujClick();
+    void btnDrukujClick(bool preview);
+    void btnUsunClick();
+    void showLastInvoice(int key, const QString &text);
+
+    int m_clientKey;
+    int m_orderKey;
+    QButtonGroup *m_copies;
+};
