@@ -125,7 +125,8 @@ TEST(DbError, TellsTheKindsOfFailureApart)
 
     Connection nowhere;
     try {
-        nowhere.open(QStringLiteral("127.0.0.1/1:/nie/ma/bazy.fdb"));
+        nowhere.open(QStringLiteral("127.0.0.1/1:/nie/ma/bazy.fdb"), QStringLiteral("SYSDBA"),
+                     QStringLiteral("masterkey"));
         FAIL();
     } catch (const DbError &error) {
         EXPECT_EQ(error.nativeCode(), -902);

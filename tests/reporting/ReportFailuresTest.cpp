@@ -76,7 +76,8 @@ TEST(ReportFailures, ADatabaseThatCannotBeReachedOrIsLostAsksToCheckTheConnectio
     scriptedMessages().expect();
     EXPECT_FALSE(reportFailures(QStringLiteral("Nie można odczytać listy zleceń"), [] {
         Connection server;
-        server.open(QStringLiteral("127.0.0.1/1:/dane/haulix.fdb"));
+        server.open(QStringLiteral("127.0.0.1/1:/dane/haulix.fdb"), QStringLiteral("SYSDBA"),
+                    QStringLiteral("masterkey"));
     }));
     EXPECT_EQ(scriptedMessages().shown().back().text,
               QStringLiteral("Nie można odczytać listy zleceń.\n") + advice);
