@@ -2,6 +2,7 @@
 
 #include "MessageService.h"
 #include "ReportFailures.h"
+#include "RequiredDateEdit.h"
 #include "RevenueAccounts.h"
 #include "SessionContext.h"
 #include "TBitBtn.h"
@@ -32,13 +33,6 @@ QLineEdit *lineEdit(const char *name, int length, QWidget *parent)
 {
     auto *edit = named(name, new QLineEdit(parent));
     edit->setMaxLength(length);
-    return edit;
-}
-
-TDateEdit *dateEdit(const char *name, QWidget *parent)
-{
-    auto *edit = named(name, new TDateEdit(parent));
-    edit->setEmptyAllowed(false);
     return edit;
 }
 
@@ -89,8 +83,8 @@ void TfrmFakturowanie::buildFields(QWidget *parent)
     cbDokument = named("cbDokument", new QComboBox(parent));
     edSymbolFaktury = lineEdit("edSymbolFaktury", InvoiceHeader::SymbolLength, parent);
     cbKontrahenci = named("cbKontrahenci", new QComboBox(parent));
-    deDataWystawienia = dateEdit("deDataWystawienia", parent);
-    deDataSprzedazy = dateEdit("deDataSprzedazy", parent);
+    deDataWystawienia = requiredDateEdit(QStringLiteral("deDataWystawienia"), parent);
+    deDataSprzedazy = requiredDateEdit(QStringLiteral("deDataSprzedazy"), parent);
     cbSposobZaplaty = named("cbSposobZaplaty", new QComboBox(parent));
     seIloscDni = named("seIloscDni", new TLimitedSpinEdit(parent));
     seIloscDni->setRange(0, InvoiceHeader::MaxPaymentDays);

@@ -2,6 +2,7 @@
 
 #include "InvoiceableOrders.h"
 #include "ReportFailures.h"
+#include "RequiredDateEdit.h"
 #include "SessionContext.h"
 #include "TBitBtn.h"
 #include "TDateEdit.h"
@@ -18,14 +19,6 @@
 namespace {
 
 const QString NoInvoice = QStringLiteral("-----------");
-
-TDateEdit *dateEdit(const QString &name, QWidget *parent)
-{
-    auto *edit = new TDateEdit(parent);
-    edit->setObjectName(name);
-    edit->setEmptyAllowed(false);
-    return edit;
-}
 
 } // namespace
 
@@ -83,10 +76,10 @@ TfrmWybierzZlecenia::TfrmWybierzZlecenia(QWidget *owner, int clientKey, int orde
 void TfrmWybierzZlecenia::buildTop(QWidget *parent)
 {
     auto *lblOd = new QLabel(QStringLiteral("od:"), parent);
-    deOd = dateEdit(QStringLiteral("deOd"), parent);
+    deOd = requiredDateEdit(QStringLiteral("deOd"), parent);
     lblOd->setBuddy(deOd);
     auto *lblDo = new QLabel(QStringLiteral("do:"), parent);
-    deDo = dateEdit(QStringLiteral("deDo"), parent);
+    deDo = requiredDateEdit(QStringLiteral("deDo"), parent);
     lblDo->setBuddy(deDo);
     btnOdswiez = TBitBtn::create(QStringLiteral("Odśwież"), QStringLiteral("btnOdswiez"), parent);
     auto *layout = new QHBoxLayout(parent);

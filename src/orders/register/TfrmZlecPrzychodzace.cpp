@@ -6,6 +6,7 @@
 #include "OrderListColumns.h"
 #include "OrderPlaces.h"
 #include "ReportFailures.h"
+#include "RequiredDateEdit.h"
 #include "SessionContext.h"
 #include "TBitBtn.h"
 #include "TDaneFirmy.h"
@@ -24,14 +25,6 @@ namespace {
 
 constexpr int MinimumWidth = 712;
 constexpr QSize InitialSize(963, 649);
-
-TDateEdit *dateEdit(const QString &name, QWidget *parent)
-{
-    auto *edit = new TDateEdit(parent);
-    edit->setObjectName(name);
-    edit->setEmptyAllowed(false);
-    return edit;
-}
 
 } // namespace
 
@@ -90,10 +83,10 @@ TfrmZlecPrzychodzace::~TfrmZlecPrzychodzace() = default;
 void TfrmZlecPrzychodzace::buildFilters(QWidget *parent)
 {
     auto *lblOd = new QLabel(QStringLiteral("Od daty załadunku od:"), parent);
-    deOd = dateEdit(QStringLiteral("deOd"), parent);
+    deOd = requiredDateEdit(QStringLiteral("deOd"), parent);
     lblOd->setBuddy(deOd);
     auto *lblDo = new QLabel(QStringLiteral("do:"), parent);
-    deDo = dateEdit(QStringLiteral("deDo"), parent);
+    deDo = requiredDateEdit(QStringLiteral("deDo"), parent);
     lblDo->setBuddy(deDo);
 
     RadioGroup1 = new TRadioGroup(
