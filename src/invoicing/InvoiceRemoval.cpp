@@ -1,6 +1,7 @@
 #include "InvoiceRemoval.h"
 
 #include "InvoicingError.h"
+#include "MessageService.h"
 #include "Statement.h"
 #include "TFakturyObj.h"
 #include "Transaction.h"
@@ -8,6 +9,8 @@
 namespace InvoiceRemoval {
 
 namespace {
+
+constexpr int InvoiceAdministrator = 1;
 
 void run(Connection &connection, const QString &sql, int invoiceKey)
 {
@@ -18,6 +21,14 @@ void run(Connection &connection, const QString &sql, int invoiceKey)
 }
 
 } // namespace
+
+bool allowed(int userId)
+{
+    if (userId == InvoiceAdministrator)
+        return true;
+    MessageServices::instance().showMessage(QStringLiteral("Brak uprawnień do usuwania "));
+    return false;
+}
 
 void remove(Transaction &transaction, int invoiceKey)
 {

@@ -7,6 +7,10 @@ class Transaction;
 // all or nothing.
 namespace InvoiceRemoval {
 
+// Only the invoice administrator, user 1, removes invoices; anyone else
+// is told so and false is returned.
+bool allowed(int userId);
+
 // Throws InvoicingError (shown already by the invoice's table object) or
 // DbError; the invoice then stays as it was.
 void remove(Transaction &transaction, int invoiceKey);

@@ -51,9 +51,9 @@ TfrmWybierzZlecenia::TfrmWybierzZlecenia(QWidget *owner, int clientKey, int orde
     list->items().setCheckBoxes(true);
     list->setGridLines(true);
     frameListView1->dateColumns() << QStringLiteral("Data załad");
-    // Orders are neither added nor corrected here.
-    for (TBitBtn *unused : {frameListView1->BitBtn5, frameListView1->BitBtn4,
-                            frameListView1->BitBtn6})
+    // Orders are neither added nor removed here; "&Popraw" corrects their
+    // collective order.
+    for (TBitBtn *unused : {frameListView1->BitBtn5, frameListView1->BitBtn6})
         unused->hide();
     middle->addWidget(frameListView1, 1);
     middle->addWidget(buildSide(pnlClient));
@@ -110,6 +110,7 @@ void TfrmWybierzZlecenia::buildChecks(QWidget *parent)
         connect(button, &QPushButton::clicked, this,
                 [this, change] { frameListView1->lvMain->items().changeChecks(change); });
     }
+    addCollectiveOrderActions(layout);
     layout->addStretch(1);
 }
 

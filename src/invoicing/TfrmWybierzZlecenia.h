@@ -2,6 +2,8 @@
 
 #include "TfrmRODefault.h"
 
+class QAction;
+class QBoxLayout;
 class QButtonGroup;
 class QCheckBox;
 class QGroupBox;
@@ -53,6 +55,9 @@ public:
     TBitBtn *btnDrukuj;               // "&Drukuj": the invoice, then its attachment
     TBitBtn *btnPodglad;              // "&Podglad": both in the preview
     TBitBtn *btnUsun;                 // "&Usuń": removes the last invoice
+    QAction *acPopraw;                // "&Popraw": the selected order's collective order
+    QAction *acLadunki;               // "Ładunki": the consignments on its vehicle
+    TBitBtn *btnLadunki;
 
 protected:
     void FormCreate() override;
@@ -66,6 +71,12 @@ private:
     void btnDrukujClick(bool preview);
     void btnUsunClick();
     void showLastInvoice(int key, const QString &text);
+    void addCollectiveOrderActions(QBoxLayout *row);
+    // The collective order of the selected order; 0, after saying so, when
+    // it has none, and when no order is selected.
+    int selectedCollectiveOrder();
+    void acPoprawExecute();
+    void acLadunkiExecute();
 
     int m_clientKey;
     int m_orderKey;

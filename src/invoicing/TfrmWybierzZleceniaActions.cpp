@@ -107,6 +107,8 @@ void TfrmWybierzZlecenia::btnDrukujClick(bool preview)
 
 void TfrmWybierzZlecenia::btnUsunClick()
 {
+    if (!InvoiceRemoval::allowed(session().UserID))
+        return;
     const int key = lastInvoice();
     if (key < 1 || !session().Database)
         return;

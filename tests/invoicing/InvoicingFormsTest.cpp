@@ -156,6 +156,8 @@ TEST_F(InvoicingForms, CheckedOrdersBecomeOneInvoiceShownAsTheLastAndRemovedAgai
     EXPECT_EQ(files->deliveries()[0].title, "Faktura VAT Nr " + form->Label6->text());
     EXPECT_EQ(files->deliveries()[1].kind, PdfFileReportOutput::Kind::Preview);
 
+    // Invoices are removed by user 1 only.
+    setUser(1);
     scriptedMessages().expect(MessageService::Yes);
     Typing::click(form->btnUsun);
     EXPECT_EQ(scriptedMessages().shown().back().text, "Czy na pewno usunąć fakturę?");

@@ -11,12 +11,6 @@
 #include "TfrmWyborKontrahenta.h"
 #include "TframeListView.h"
 
-namespace {
-
-constexpr int InvoiceAdministrator = 1;
-
-} // namespace
-
 void TfrmZlecPrzychodzace::acFakturaExecute()
 {
     const int order = selectedOrder();
@@ -30,10 +24,8 @@ void TfrmZlecPrzychodzace::acFakturaExecute()
 
 void TfrmZlecPrzychodzace::BitBtn11Click()
 {
-    if (session().UserID != InvoiceAdministrator) {
-        MessageServices::instance().showMessage(QStringLiteral("Brak uprawnień do usuwania "));
+    if (!InvoiceRemoval::allowed(session().UserID))
         return;
-    }
     const int order = selectedOrder();
     if (order == 0)
         return;
