@@ -20,7 +20,7 @@ namespace {
 
 // Written into the marker; a demo database of another edition (an older
 // schema, other demo data) is made again.
-constexpr char Edition[] = "5: NUMERACJA, carriers' invoices, stamp fees, partners report";
+constexpr char Edition[] = "6: collective orders with consignments";
 
 bool currentEdition(const QString &marker)
 {

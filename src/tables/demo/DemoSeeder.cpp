@@ -31,6 +31,7 @@ void DemoSeeder::seed()
     seedOrders();
     seedTemplates();
     seedSiblingRegisters();
+    seedCollectiveOrders();
     scope.commit();
 }
 

@@ -65,6 +65,7 @@ private:
     void seedOrders();
     void seedTemplates();
     void seedSiblingRegisters();
+    void seedCollectiveOrders();
 
     std::vector<PlannedOrder> planOrders();
     void planInvoices(std::vector<PlannedOrder> &orders);
