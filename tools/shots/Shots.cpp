@@ -14,4 +14,5 @@ void registerShots(ShotBook &book)
     addCarrierShots(book);
     addStatementShots(book);
     addInvoicingShots(book);
+    addCollectiveShots(book);
 }

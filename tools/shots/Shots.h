@@ -49,3 +49,5 @@ void addCarrierShots(ShotBook &book);
 void addStatementShots(ShotBook &book);
 // Invoicing of orders: the client choice, the orders and the invoice header.
 void addInvoicingShots(ShotBook &book);
+// Collective orders: the editor, the consignments on a vehicle and their choice.
+void addCollectiveShots(ShotBook &book);
