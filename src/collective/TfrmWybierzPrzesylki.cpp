@@ -91,12 +91,7 @@ void TfrmWybierzPrzesylki::LoadLVData()
 
 void TfrmWybierzPrzesylki::btnOkClick()
 {
-    const TListViewModel &rows = frameListView1->lvMain->items();
-    std::vector<int> keys;
-    for (int row = 0; row < rows.rows(); ++row) {
-        if (rows.isChecked(row))
-            keys.push_back(rows.key(row));
-    }
+    const std::vector<int> keys = frameListView1->lvMain->items().checkedKeys();
     bool assigned = false;
     reportFailures(QStringLiteral("Nie dodano przesyłek do pojazdu"), [&] {
         assigned = Consignments::assign(session().transaction(), keys, m_collectiveKey);

@@ -211,13 +211,7 @@ void TfrmWybierzZlecenia::LoadLVData()
 
 std::vector<int> TfrmWybierzZlecenia::checkedOrders() const
 {
-    const TListViewModel &rows = frameListView1->lvMain->items();
-    std::vector<int> keys;
-    for (int row = 0; row < rows.rows(); ++row) {
-        if (rows.isChecked(row))
-            keys.push_back(rows.key(row));
-    }
-    return keys;
+    return frameListView1->lvMain->items().checkedKeys();
 }
 
 int TfrmWybierzZlecenia::lastInvoice() const

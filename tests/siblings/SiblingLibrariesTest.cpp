@@ -1,8 +1,10 @@
 #include "DemoSeeder.h"
 #include "SessionContext.h"
+#include "TBitBtn.h"
 #include "TDaneFirmy.h"
 #include "TestDatabase.h"
 #include "TfrmAddEditZlecenia_Przych.h"
+#include "TfrmAddEditZleceniaZbiorcze.h"
 #include "Transaction.h"
 #include "WindowScript.h"
 
@@ -46,6 +48,23 @@ protected:
     }
 
     int key(const QString &sql) { return db.scalar(sql).toInt(); }
+
+    // Editors ask the launcher of their own session, which finds the
+    // libraries through Haulix.ini beside the program; one is written
+    // there for the test when there is none.
+    static auto settingsBesideProgram()
+    {
+        const QString ini = QCoreApplication::applicationDirPath() + QStringLiteral("/Haulix.ini");
+        const bool existed = QFile::exists(ini);
+        if (!existed) {
+            QSettings settings(ini, QSettings::IniFormat);
+            settings.setValue(QStringLiteral("AppPath"), QStringLiteral(HAULIX_APP_PATH "/"));
+        }
+        return qScopeGuard([ini, existed] {
+            if (!existed)
+                QFile::remove(ini);
+        });
+    }
 
     // Finds a record by typing into the search box, then chooses it.
     static std::function<void(QWidget &)> choose(const QString &search)
@@ -144,18 +163,7 @@ TEST_F(SiblingLibraries, CancellingASelectionLeavesTheCallersKey)
 
 TEST_F(SiblingLibraries, TheOrderEditorsPickersFillTheirFieldsFromTheSiblings)
 {
-    // The editor asks the launcher of its own session, which finds the
-    // libraries through Haulix.ini beside the program.
-    const QString ini = QCoreApplication::applicationDirPath() + QStringLiteral("/Haulix.ini");
-    const bool existed = QFile::exists(ini);
-    const auto removeIni = qScopeGuard([&] {
-        if (!existed)
-            QFile::remove(ini);
-    });
-    if (!existed) {
-        QSettings settings(ini, QSettings::IniFormat);
-        settings.setValue(QStringLiteral("AppPath"), QStringLiteral(HAULIX_APP_PATH "/"));
-    }
+    const auto settings = settingsBesideProgram();
     auto editor = TfrmRODefault::create<TfrmAddEditZlecenia_Przych>(
         nullptr, 0, TfrmAddEditZlecenia_Przych::Add);
     WindowScript script;
@@ -214,4 +222,37 @@ TEST_F(SiblingLibraries, TheSchedulerButtonsAndTheRoadCardEditorOpenTheirWindows
     const int firstCard = key(QStringLiteral("SELECT MIN(ID_KARTY_DR) FROM KARTY_DR"));
     EXPECT_TRUE(launcher.EditRoadCard(firstCard));
     EXPECT_TRUE(script.finished()) << script.seen().join(u' ').toStdString();
+}
+
+TEST_F(SiblingLibraries, TheCollectiveOrderEditorsPickersFillTheCarrierAndCrew)
+{
+    const auto settings = settingsBesideProgram();
+    const int run = key(QStringLiteral("SELECT ID_ZLECENIA_ZBIOR FROM ZLECENIA_ZBIOR WHERE NUMER = 1"));
+    auto editor = TfrmRODefault::create<TfrmAddEditZleceniaZbiorcze>(
+        nullptr, run, TfrmAddEditZleceniaZbiorcze::Edit);
+    WindowScript script;
+    // A vehicle brings its default driver, who can then be changed.
+    script.then(QStringLiteral("TfrmPojazdy"), choose(QStringLiteral("EL 4521K")));
+    editor->acPojazdObcy->trigger();
+    EXPECT_EQ(editor->cePojazdObcy->text(), "EL 4521K");
+    EXPECT_EQ(editor->ceKierowcaObcy->text(), "Marek Wójcik");
+    script.then(QStringLiteral("TfrmKierowcy"), choose(QStringLiteral("Lewan")));
+    editor->acKierowcaObcy->trigger();
+    EXPECT_EQ(editor->ceKierowcaObcy->text(), "Paweł Lewandowski");
+    // "Więcej..." offers every contractor; one that has not carried yet
+    // joins the list of carriers.
+    script.then(QStringLiteral("TfrmKontrahenci"), choose(QStringLiteral("BUDMAT")));
+    editor->btnMore->click();
+    EXPECT_EQ(editor->cbWykonawca->currentText(), "BUDMAT");
+    EXPECT_TRUE(script.finished()) << script.seen().join(u' ').toStdString();
+
+    editor->btnOk->click();
+    EXPECT_EQ(editor->result(), TfrmRODefault::mrOk);
+    const QString saved = QStringLiteral("SELECT %1 FROM ZLECENIA_ZBIOR WHERE ID_ZLECENIA_ZBIOR = %2");
+    EXPECT_EQ(key(saved.arg(QStringLiteral("IDPOJAZDU")).arg(run)),
+              key(QStringLiteral("SELECT ID_POJAZDU FROM POJAZDY WHERE NR_REJ = 'EL 4521K'")));
+    EXPECT_EQ(key(saved.arg(QStringLiteral("IDKIEROWCY")).arg(run)),
+              key(QStringLiteral("SELECT ID_KIEROWCA FROM KIEROWCY WHERE NAZWISKO = 'Lewandowski'")));
+    EXPECT_EQ(key(saved.arg(QStringLiteral("IDPRZEWOZNIK")).arg(run)),
+              key(QStringLiteral("SELECT ID_KONTRAHENTA FROM KONTRAHENCI WHERE SKROT = 'BUDMAT'")));
 }

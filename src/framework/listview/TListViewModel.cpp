@@ -173,6 +173,16 @@ int TListViewModel::checkedCount() const
     return int(std::count_if(m_rows.begin(), m_rows.end(), [](const Row &r) { return r.checked; }));
 }
 
+std::vector<int> TListViewModel::checkedKeys() const
+{
+    std::vector<int> keys;
+    for (const Row &row : m_rows) {
+        if (row.checked)
+            keys.push_back(row.key);
+    }
+    return keys;
+}
+
 int TListViewModel::findKey(int key) const
 {
     for (int row = 0; row < rows(); ++row) {

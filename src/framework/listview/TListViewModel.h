@@ -56,6 +56,8 @@ public:
     // Every row at once, with one repaint.
     void changeChecks(CheckChange change);
     int checkedCount() const;
+    // The keys of the checked rows, in list order.
+    std::vector<int> checkedKeys() const;
 
     // The first position holding the key, -1 when none does.
     int findKey(int key) const;

@@ -94,7 +94,7 @@ void DemoSeeder::seedCollectiveOrders()
         plate.close();
         for (const int pallets : r.plannedPallets) {
             if (free.empty())
-                return;
+                break;
             Statement st(m_connection);
             st.add(QStringLiteral("UPDATE ZLECENIA_PRZYCH SET IDZLECENIAZBIOR = :aZbior, PALETYPLAN = :aPlan,"));
             st.add(QStringLiteral("POJAZD = :aPojazd, KIEROWCA = :aKierowca, LADOWNOSCPALET = 33"));
