@@ -1,9 +1,9 @@
 #include "TfrmWybierzPrzesylki.h"
 
 #include "ConsignmentColumns.h"
+#include "DateRangeBar.h"
 #include "Consignments.h"
 #include "ReportFailures.h"
-#include "RequiredDateEdit.h"
 #include "SessionContext.h"
 #include "TBitBtn.h"
 #include "TDateEdit.h"
@@ -45,21 +45,11 @@ QWidget *TfrmWybierzPrzesylki::buildRange(QWidget *parent)
 {
     auto *panel = new QWidget(parent);
     panel->setObjectName(QStringLiteral("pnlZakres"));
-    deOd = requiredDateEdit(QStringLiteral("deOd"), panel);
-    deDo = requiredDateEdit(QStringLiteral("deDo"), panel);
-    btnOdswiez = TBitBtn::create(QStringLiteral("Odśwież"), QStringLiteral("btnOdswiez"), panel);
-    auto *lblOd = new QLabel(QStringLiteral("Wyświetl wysyłki w zakresie od:"), panel);
-    lblOd->setBuddy(deOd);
-    auto *lblDo = new QLabel(QStringLiteral("dp:"), panel);
-    lblDo->setBuddy(deDo);
-    auto *layout = new QHBoxLayout(panel);
-    layout->setContentsMargins(8, 4, 8, 4);
-    layout->addWidget(lblOd);
-    layout->addWidget(deOd);
-    layout->addWidget(lblDo);
-    layout->addWidget(deDo);
-    layout->addWidget(btnOdswiez);
-    layout->addStretch(1);
+    const DateRangeBar bar = DateRangeBar::build(
+        panel, QStringLiteral("Wyświetl wysyłki w zakresie od:"), QStringLiteral("dp:"));
+    deOd = bar.from;
+    deDo = bar.to;
+    btnOdswiez = bar.refresh;
     return panel;
 }
 

@@ -1,8 +1,8 @@
 #include "TfrmWybierzZlecenia.h"
 
+#include "DateRangeBar.h"
 #include "InvoiceableOrders.h"
 #include "ReportFailures.h"
-#include "RequiredDateEdit.h"
 #include "SessionContext.h"
 #include "TBitBtn.h"
 #include "TDateEdit.h"
@@ -75,21 +75,11 @@ TfrmWybierzZlecenia::TfrmWybierzZlecenia(QWidget *owner, int clientKey, int orde
 
 void TfrmWybierzZlecenia::buildTop(QWidget *parent)
 {
-    auto *lblOd = new QLabel(QStringLiteral("od:"), parent);
-    deOd = requiredDateEdit(QStringLiteral("deOd"), parent);
-    lblOd->setBuddy(deOd);
-    auto *lblDo = new QLabel(QStringLiteral("do:"), parent);
-    deDo = requiredDateEdit(QStringLiteral("deDo"), parent);
-    lblDo->setBuddy(deDo);
-    btnOdswiez = TBitBtn::create(QStringLiteral("Odśwież"), QStringLiteral("btnOdswiez"), parent);
-    auto *layout = new QHBoxLayout(parent);
-    layout->setContentsMargins(8, 4, 8, 4);
-    layout->addWidget(lblOd);
-    layout->addWidget(deOd);
-    layout->addWidget(lblDo);
-    layout->addWidget(deDo);
-    layout->addWidget(btnOdswiez);
-    layout->addStretch(1);
+    const DateRangeBar bar
+        = DateRangeBar::build(parent, QStringLiteral("od:"), QStringLiteral("do:"));
+    deOd = bar.from;
+    deDo = bar.to;
+    btnOdswiez = bar.refresh;
 }
 
 void TfrmWybierzZlecenia::buildChecks(QWidget *parent)
