@@ -1,11 +1,16 @@
 // The collective order editor as a dispatcher corrects an order's head.
 #include "CollectiveFixture.h"
 #include "ScriptedMessages.h"
+#include "ScriptedModalRunner.h"
+#include "TBitBtn.h"
 #include "TDaneFirmy.h"
 #include "TDateEdit.h"
 #include "TLimitedSpinEdit.h"
 #include "TNumberEdit.h"
+#include "TestData.h"
 #include "TfrmAddEditZleceniaZbiorcze.h"
+#include "TfrmStawkiTaryfowe.h"
+#include "TframeListView.h"
 #include "Typing.h"
 
 #include <QComboBox>
@@ -233,4 +238,31 @@ TEST_F(CollectiveOrderEditor, AddingStartsTodayWithTheFirstRateAndInsertsANewOrd
     EXPECT_EQ(saved.IDVAT_PRZEWOZNIK, vat23);
     EXPECT_EQ(saved.TERMINPLATNOSCI, 35);
     EXPECT_EQ(saved.DATA.date(), QDate::currentDate());
+}
+
+TEST_F(CollectiveOrderEditor, TheOwnTariffIsShownByNameAndChosenFromTheOwnTariffs)
+{
+    Connection &c = db.connection();
+    const int city = TestData::addTariff(c, {.name = QStringLiteral("Miasto"), .own = 1});
+    const int country = TestData::addTariff(c, {.name = QStringLiteral("Kraj"), .own = 1});
+    const int key = addCollective([&](TZlecenia_zbiorObj &z) {
+        z.IDPRZEWOZNIK = ownCompany;
+        z.IDTARYFYWLASNEJ = city;
+    });
+    const auto form = open(key);
+    EXPECT_EQ(form->ceTaryfaWlasna->text(), "Miasto");
+
+    scriptedModalRunner().expect<TfrmStawkiTaryfowe>([&](TfrmStawkiTaryfowe &picker) {
+        TListView &list = *picker.frameListView1->lvMain;
+        EXPECT_EQ(list.key(list.selectedIndex()), city);
+        list.setSelectedIndex(list.findByKey(country));
+        Typing::click(picker.btnOk);
+        return picker.result();
+    });
+    form->acTaryfaWlasna->trigger();
+    EXPECT_TRUE(scriptedModalRunner().allRun());
+    EXPECT_EQ(form->ceTaryfaWlasna->text(), "Kraj");
+    Typing::activate(form.get());
+    EXPECT_EQ(save(*form), TfrmRODefault::mrOk);
+    EXPECT_EQ(collective(key).IDTARYFYWLASNEJ, country);
 }
