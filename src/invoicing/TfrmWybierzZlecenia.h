@@ -16,7 +16,7 @@ class TframeListView;
 // invoice yet, of one client or of all, with check boxes. "&Zafakturuj"
 // puts the checked orders on one invoice through the header dialog
 // TfrmFakturowanie, all or nothing; the last invoice made here can be
-// printed, previewed and removed again.
+// printed, previewed, exported as an e-invoice and removed again.
 class TfrmWybierzZlecenia : public TfrmRODefault
 {
     Q_OBJECT
@@ -52,6 +52,7 @@ public:
     QLineEdit *edfak;                 // its key
     TBitBtn *btnDrukuj;               // "&Drukuj": the invoice, then its attachment
     TBitBtn *btnPodglad;              // "&Podglad": both in the preview
+    TBitBtn *btnEksportKsef;          // "Eksport KSeF...": the e-invoice file
     TBitBtn *btnUsun;                 // "&Usuń": removes the last invoice
 
 protected:
@@ -64,6 +65,7 @@ private:
     QWidget *buildSide(QWidget *parent);
     void btnZafakturujClick();
     void btnDrukujClick(bool preview);
+    void btnEksportKsefClick();
     void btnUsunClick();
     void showLastInvoice(int key, const QString &text);
 
