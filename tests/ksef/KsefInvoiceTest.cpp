@@ -1,7 +1,7 @@
 // Issued invoices as FA(3) e-invoices: what they say, that the schema
 // accepts them and that their amounts are the printout's to the grosz.
 #include "Format.h"
-#include "InvoicingFixture.h"
+#include "KsefFixture.h"
 #include "KsefExport.h"
 #include "KsefXml.h"
 #include "TKrajeObj.h"
@@ -11,8 +11,6 @@
 
 namespace {
 
-const QDateTime Created(QDate(2026, 7, 10), QTime(9, 30), Qt::UTC);
-
 // An amount of the document as the printout writes it.
 QString asPrinted(const QString &amount)
 {
@@ -21,7 +19,7 @@ QString asPrinted(const QString &amount)
 
 } // namespace
 
-class KsefInvoiceTest : public InvoicingFixture
+class KsefInvoiceTest : public KsefFixture
 {
 protected:
     QByteArray exported(int invoiceKey)

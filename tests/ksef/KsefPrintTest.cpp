@@ -1,6 +1,6 @@
 // haulix-print writing e-invoices: one invoice, or every invoice of a period.
 #include "DemoSeeder.h"
-#include "InvoicingFixture.h"
+#include "KsefFixture.h"
 #include "KsefSchema.h"
 #include "KsefXml.h"
 #include "ProgramRun.h"
@@ -16,26 +16,10 @@ ProgramRun runPrint(const QStringList &arguments)
     return ProgramRun::of(QStringLiteral(HAULIX_PRINT_PATH), arguments);
 }
 
-QByteArray fileText(const QString &path)
-{
-    QFile file(path);
-    return file.open(QIODevice::ReadOnly) ? file.readAll() : QByteArray();
-}
-
 } // namespace
 
-class KsefPrintTest : public InvoicingFixture
+class KsefPrintTest : public KsefFixture
 {
-protected:
-    void SetUp() override
-    {
-        InvoicingFixture::SetUp();
-        invoice = addInvoice();
-        addPosition(invoice, QStringLiteral("Usługa transportowa"), 1, 1000, 1);
-    }
-
-    QTemporaryDir dir;
-    int invoice = 0;
 };
 
 TEST_F(KsefPrintTest, OneInvoiceIsOneValidFile)
@@ -110,7 +94,7 @@ TEST(KsefDemoCompany, EveryInvoiceOfTheDemoCompanyIsOneValidFileNamedByItsNumber
     ASSERT_EQ(files.size(), invoices);
     const KsefSchema schema;
     for (const QString &name : files) {
-        const QByteArray document = fileText(QDir(target).filePath(name));
+        const QByteArray document = KsefFixture::fileText(QDir(target).filePath(name));
         EXPECT_EQ(schema.problems(document), QStringList()) << name.toStdString();
         const QString number = KsefXml(document).one("Fa/P_2");
         EXPECT_EQ(name, QString(number).replace(u'/', u'_') + ".xml");

@@ -1,6 +1,6 @@
 // What stops an e-invoice: data to complete first, and a document the
 // schema refuses, each said in Polish with no file written.
-#include "InvoicingFixture.h"
+#include "KsefFixture.h"
 #include "KsefError.h"
 #include "KsefExport.h"
 #include "KsefSchema.h"
@@ -9,30 +9,10 @@
 #include <QFile>
 #include <QProcess>
 #include <QStandardPaths>
-#include <QTemporaryDir>
 
-namespace {
-
-const QDateTime Created(QDate(2026, 7, 10), QTime(9, 30), Qt::UTC);
-
-QByteArray fileText(const QString &path)
-{
-    QFile file(path);
-    return file.open(QIODevice::ReadOnly) ? file.readAll() : QByteArray();
-}
-
-} // namespace
-
-class KsefRefusalTest : public InvoicingFixture
+class KsefRefusalTest : public KsefFixture
 {
 protected:
-    void SetUp() override
-    {
-        InvoicingFixture::SetUp();
-        invoice = addInvoice();
-        addPosition(invoice, QStringLiteral("Usługa transportowa"), 1, 1000, 1);
-    }
-
     // The message of the refusal; the file is left as it was.
     QString refusal(const QString &path)
     {
@@ -45,9 +25,6 @@ protected:
     }
 
     QString target(const QString &name) const { return dir.filePath(name); }
-
-    QTemporaryDir dir;
-    int invoice = 0;
 };
 
 TEST_F(KsefRefusalTest, MissingNipsAndBankAccountNameTheRecordToCompleteAndWriteNothing)
