@@ -78,7 +78,8 @@ TEST_F(KsefForm, MissingDataIsSaidFirstThenTheFileIsAskedForAndWritten)
     EXPECT_TRUE(refused.startsWith("Faktura " + number + " nie jest zgodna ze schematem FA(3): "
                                    "element „AdresL1” (wiersz "))
         << refused.toStdString();
-    EXPECT_TRUE(refused.endsWith("wartość jest pusta. Pliku nie zapisano.")) << refused.toStdString();
+    EXPECT_TRUE(refused.endsWith("wartość jest pusta. Pliku nie zapisano."))
+        << refused.toStdString();
     EXPECT_TRUE(scriptedFilePrompts().asked().empty());
 
     db.exec(QStringLiteral("UPDATE KONTRAHENCI SET ADRES = 'ul. Źródlana 8', KOD = '00-950', "
