@@ -354,6 +354,15 @@ void KsefInvoice::checkComplete() const
 {
     const TFakturyObj &f = m_data.invoice;
     const QString invoice = QStringLiteral("Faktura %1: ").arg(f.NUMER_PELNY.trimmed());
+    // A correction needs the corrected invoice's number and date, which
+    // the invoices of this module do not keep.
+    if (m_data.documentKind.contains(QStringLiteral("koryg"), Qt::CaseInsensitive)) {
+        throw KsefError(invoice
+                        + QStringLiteral("dokument „%1” jest korektą, a program nie "
+                                         "przechowuje danych faktury korygowanej. E-faktury "
+                                         "nie utworzono.")
+                              .arg(m_data.documentKind));
+    }
     if (m_data.company.NIP.trimmed().isEmpty()) {
         throw KsefError(invoice
                         + QStringLiteral("w danych firmy nie ma NIP-u sprzedawcy. Uzupełnij NIP "

@@ -19,7 +19,8 @@ public:
 
     // Throws KsefError naming the record to complete when the company has
     // no NIP, a Polish client has none, the invoice has no bank account
-    // with a number, or a position has a rate the structure has no field for.
+    // with a number, or a position has a rate the structure has no field
+    // for; also for a correction, which this structure cannot describe here.
     void checkComplete() const;
 
     // The document, created at that moment (written in UTC). Checks first.

@@ -135,28 +135,38 @@ QString reason(const xmlError &error, const QString &value)
     }
 }
 
+// Whose element it is, where the same name stands for several parties.
+QString owner(const xmlNode *node)
+{
+    for (const xmlNode *at = node->parent; at && at->type == XML_ELEMENT_NODE; at = at->parent) {
+        const QByteArray name(reinterpret_cast<const char *>(at->name));
+        if (name == "Podmiot1")
+            return QStringLiteral(" sprzedawcy");
+        if (name == "Podmiot2")
+            return QStringLiteral(" nabywcy");
+        if (name == "FaWiersz")
+            return QStringLiteral(" pozycji faktury");
+    }
+    return QString();
+}
+
 QString describe(const xmlError &error)
 {
-    QString element;
-    QString value;
-    if (error.node) {
-        const auto *node = static_cast<const xmlNode *>(error.node);
-        if (node->name)
-            element = QString::fromUtf8(reinterpret_cast<const char *>(node->name));
-        if (xmlChar *content = xmlNodeGetContent(node)) {
-            value = QString::fromUtf8(reinterpret_cast<const char *>(content)).trimmed();
-            xmlFree(content);
-        }
-    }
     if (error.domain == XML_FROM_PARSER)
         return QStringLiteral("wiersz %1: dokument nie jest poprawnym XML-em").arg(error.line);
-    if (element.isEmpty()) {
+    const auto *node = static_cast<const xmlNode *>(error.node);
+    if (!node || !node->name) {
         return QStringLiteral("wiersz %1: %2")
             .arg(error.line)
             .arg(withoutNamespaces(QString::fromUtf8(error.message).trimmed()));
     }
-    return QStringLiteral("element „%1” (wiersz %2): %3")
-        .arg(element)
+    QString value;
+    if (xmlChar *content = xmlNodeGetContent(node)) {
+        value = QString::fromUtf8(reinterpret_cast<const char *>(content)).trimmed();
+        xmlFree(content);
+    }
+    return QStringLiteral("element „%1”%2 (wiersz %3): %4")
+        .arg(QString::fromUtf8(reinterpret_cast<const char *>(node->name)), owner(node))
         .arg(error.line)
         .arg(reason(error, value));
 }

@@ -76,7 +76,7 @@ TEST_F(KsefForm, MissingDataIsSaidFirstThenTheFileIsAskedForAndWritten)
     db.exec(QStringLiteral("UPDATE KONTRAHENCI SET NIP = '521-300-28-29'"));
     const QString refused = exportMessage(*form);
     EXPECT_TRUE(refused.startsWith("Faktura " + number + " nie jest zgodna ze schematem FA(3): "
-                                   "element „AdresL1” (wiersz "))
+                                   "element „AdresL1” nabywcy (wiersz "))
         << refused.toStdString();
     EXPECT_TRUE(refused.endsWith("wartość jest pusta. Pliku nie zapisano."))
         << refused.toStdString();

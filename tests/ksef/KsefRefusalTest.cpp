@@ -52,6 +52,15 @@ TEST_F(KsefRefusalTest, MissingNipsAndBankAccountNameTheRecordToCompleteAndWrite
     EXPECT_TRUE(QDir(dir.path()).isEmpty());
 }
 
+TEST_F(KsefRefusalTest, ACorrectionIsNotExportedAsAnInvoice)
+{
+    db.exec(QStringLiteral("INSERT INTO DOKUMENTY (NAZWA) VALUES ('Faktura VAT korygująca')"));
+    db.exec(QStringLiteral("UPDATE FAKTURY SET ID_RODZAJ_DOK = 2"));
+    EXPECT_EQ(refusal(target(QStringLiteral("f.xml"))),
+              "Faktura 007/07/2026: dokument „Faktura VAT korygująca” jest korektą, a program "
+              "nie przechowuje danych faktury korygowanej. E-faktury nie utworzono.");
+}
+
 TEST_F(KsefRefusalTest, ARateTheStructureHasNoFieldForIsNamed)
 {
     db.exec(QStringLiteral("INSERT INTO STAWKI_VAT (OPIS, PROCENT) VALUES ('19% DE', 0.19)"));
@@ -72,7 +81,7 @@ TEST_F(KsefRefusalTest, ADocumentTheSchemaRefusesNamesTheElementAndLeavesAnEarli
     db.exec(QStringLiteral("UPDATE DANE_FIRMY SET NIP = '012-345'"));
     const QString message = refusal(path);
     EXPECT_TRUE(message.startsWith("Faktura 007/07/2026 nie jest zgodna ze schematem FA(3): "
-                                   "element „NIP” (wiersz "))
+                                   "element „NIP” sprzedawcy (wiersz "))
         << message.toStdString();
     EXPECT_TRUE(message.endsWith("): wartość „012345” nie ma postaci wymaganej przez schemat. "
                                  "Pliku nie zapisano."))
@@ -102,7 +111,7 @@ TEST_F(KsefRefusalTest, TheSchemaSaysWhatIsMissingOrOutOfPlace)
     const QStringList unknownRate
         = schema.problems(QByteArray(valid).replace("<P_12>23</P_12>", "<P_12>19</P_12>"));
     ASSERT_EQ(unknownRate.size(), 1) << unknownRate.join(u'\n').toStdString();
-    EXPECT_TRUE(unknownRate[0].startsWith("element „P_12” (wiersz "));
+    EXPECT_TRUE(unknownRate[0].startsWith("element „P_12” pozycji faktury (wiersz "));
     EXPECT_TRUE(unknownRate[0].endsWith(
         "wartość „19” nie należy do wartości dopuszczonych przez schemat"))
         << unknownRate[0].toStdString();
