@@ -11,6 +11,7 @@ packages=(
   firebird3.0-server-core firebird3.0-utils firebird-dev firebird3.0-server
   googletest libgtest-dev libbenchmark-dev
   poppler-utils
+  libxml2-dev libxml2-utils  # e-invoices checked against their schema; xmllint in tests
   dpkg-dev file  # the package: dpkg-shlibdeps names the libraries' packages
   fonts-dejavu-core fonts-wine
 )

@@ -7,6 +7,15 @@ void JobArguments::refuse(const QString &text)
     throw std::invalid_argument(text.toStdString());
 }
 
+int JobArguments::keyOf(const QString &argument)
+{
+    bool ok = false;
+    const int key = argument.toInt(&ok);
+    if (!ok || key < 1)
+        refuse(QStringLiteral("Identyfikator musi być dodatnią liczbą całkowitą: ") + argument);
+    return key;
+}
+
 QDate JobArguments::dayOf(const QString &argument)
 {
     const QDate day = QDate::fromString(argument, Qt::ISODate);

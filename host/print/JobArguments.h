@@ -11,6 +11,8 @@
 namespace JobArguments {
 
 [[noreturn]] void refuse(const QString &text);
+// A record's key: a positive whole number.
+int keyOf(const QString &argument);
 // A day written yyyy-MM-dd.
 QDate dayOf(const QString &argument);
 // A period of two such days, the first not after the second.

@@ -1,5 +1,6 @@
 #include "PrintCommand.h"
 
+#include "KsefCommand.h"
 #include "PrintJobs.h"
 
 #include <algorithm>
@@ -70,5 +71,5 @@ QString PrintCommand::usage()
                                     : head + u'\n' + QString(width, u' ');
         text += job.description + u'\n';
     }
-    return text;
+    return text + KsefCommand::usage();
 }

@@ -1,6 +1,7 @@
 #include "PrintJobs.h"
 
 #include "CarrierPrintJobs.h"
+#include "JobArguments.h"
 #include "PdfBook.h"
 #include "StatementPrintJobs.h"
 #include "TfrmPrintReport.h"
@@ -11,28 +12,15 @@
 
 namespace {
 
-int keyOf(const QString &argument)
-{
-    bool ok = false;
-    const int key = argument.toInt(&ok);
-    if (!ok || key < 1) {
-        throw std::invalid_argument(
-            QStringLiteral("Identyfikator musi być dodatnią liczbą całkowitą: %1")
-                .arg(argument)
-                .toStdString());
-    }
-    return key;
-}
-
 void invoice(PdfBook &book, Connection &connection, const QStringList &arguments)
 {
-    TfrmRachunekPL printout(connection, keyOf(arguments.at(0)));
+    TfrmRachunekPL printout(connection, JobArguments::keyOf(arguments.at(0)));
     book.add(printout.qrRachunekPL());
 }
 
 void attachment(PdfBook &book, Connection &connection, const QStringList &arguments)
 {
-    TfrmZalacznik printout(connection, keyOf(arguments.at(0)));
+    TfrmZalacznik printout(connection, JobArguments::keyOf(arguments.at(0)));
     book.add(printout.qrZalacznik());
 }
 
@@ -55,7 +43,7 @@ const std::vector<PrintJobs::Job> &PrintJobs::all()
          QStringLiteral("zlecenie transportowe dla przewoźnika, zlecenie o identyfikatorze ID"),
          1,
          [](PdfBook &book, Connection &connection, const QStringList &arguments) {
-             TfrmPrintReport printout(connection, keyOf(arguments.at(0)));
+             TfrmPrintReport printout(connection, JobArguments::keyOf(arguments.at(0)));
              book.add(printout.qrZlecenie());
          }},
         {QStringLiteral("carriers-unpaid"), QStringLiteral("[--carrier ID]"),

@@ -1,6 +1,7 @@
 // haulix-print: any printout of the module to a PDF file, without a screen.
 //
 //   haulix-print --db DB NAME [ARGUMENTS] FILE
+//   haulix-print --db DB ksef ID FILE.xml | ksef-range FROM TO DIR
 //
 // A failure is one Polish line on stderr and exit status 1 (2 for a wrong
 // command line); the file is then left as it was, or not made at all.
@@ -8,6 +9,7 @@
 #include "Connection.h"
 #include "DateTime.h"
 #include "DbError.h"
+#include "KsefCommand.h"
 #include "PdfBook.h"
 #include "PrintCommand.h"
 #include "PrintJobs.h"
@@ -70,6 +72,9 @@ int main(int argc, char **argv)
     QLocale::setDefault(QLocale(QLocale::Polish, QLocale::Poland));
     qRegisterMetaType<DateTime>();
 
+    MessageServices::setProgramService(std::make_unique<StderrMessages>());
+    if (const std::optional<int> status = KsefCommand::run(QApplication::arguments().mid(1)))
+        return *status;
     QString error;
     const std::optional<PrintCommand> command
         = PrintCommand::parse(QApplication::arguments().mid(1), error);
@@ -77,7 +82,6 @@ int main(int argc, char **argv)
         QTextStream(stderr) << error;
         return 2;
     }
-    MessageServices::setProgramService(std::make_unique<StderrMessages>());
     try {
         return print(*command);
     } catch (const PrintoutError &e) {

@@ -69,6 +69,7 @@ TfrmWybierzZlecenia::TfrmWybierzZlecenia(QWidget *owner, int clientKey, int orde
     connect(btnOk, &QPushButton::clicked, this, &TfrmWybierzZlecenia::btnZafakturujClick);
     connect(btnDrukuj, &QPushButton::clicked, this, [this] { btnDrukujClick(false); });
     connect(btnPodglad, &QPushButton::clicked, this, [this] { btnDrukujClick(true); });
+    connect(btnEksportKsef, &QPushButton::clicked, this, &TfrmWybierzZlecenia::btnEksportKsefClick);
     connect(btnUsun, &QPushButton::clicked, this, &TfrmWybierzZlecenia::btnUsunClick);
     resize(960, 620);
 }
@@ -157,12 +158,15 @@ QWidget *TfrmWybierzZlecenia::buildSide(QWidget *parent)
     btnDrukuj = TBitBtn::create(QStringLiteral("&Drukuj"), QStringLiteral("btnDrukuj"), gbOstatnia);
     btnPodglad
         = TBitBtn::create(QStringLiteral("&Podglad"), QStringLiteral("btnPodglad"), gbOstatnia);
+    btnEksportKsef = TBitBtn::create(QStringLiteral("Eksport KSeF..."),
+                                     QStringLiteral("btnEksportKsef"), gbOstatnia);
     btnUsun = TBitBtn::create(QStringLiteral("&Usuń"), QStringLiteral("btnUsun"), gbOstatnia);
     auto *last = new QVBoxLayout(gbOstatnia);
     last->addWidget(Label6);
     last->addWidget(edfak);
     last->addWidget(btnDrukuj);
     last->addWidget(btnPodglad);
+    last->addWidget(btnEksportKsef);
     last->addWidget(btnUsun);
     layout->addWidget(gbOstatnia);
     layout->addStretch(1);

@@ -18,7 +18,7 @@ class TframeListView;
 // invoice yet, of one client or of all, with check boxes. "&Zafakturuj"
 // puts the checked orders on one invoice through the header dialog
 // TfrmFakturowanie, all or nothing; the last invoice made here can be
-// printed, previewed and removed again.
+// printed, previewed, exported as an e-invoice and removed again.
 class TfrmWybierzZlecenia : public TfrmRODefault
 {
     Q_OBJECT
@@ -54,6 +54,7 @@ public:
     QLineEdit *edfak;                 // its key
     TBitBtn *btnDrukuj;               // "&Drukuj": the invoice, then its attachment
     TBitBtn *btnPodglad;              // "&Podglad": both in the preview
+    TBitBtn *btnEksportKsef;          // "Eksport KSeF...": the e-invoice file
     TBitBtn *btnUsun;                 // "&Usuń": removes the last invoice
     QAction *acPopraw;                // "&Popraw": the selected order's collective order
     QAction *acLadunki;               // "Ładunki": the consignments on its vehicle
@@ -69,6 +70,7 @@ private:
     QWidget *buildSide(QWidget *parent);
     void btnZafakturujClick();
     void btnDrukujClick(bool preview);
+    void btnEksportKsefClick();
     void btnUsunClick();
     void showLastInvoice(int key, const QString &text);
     void addCollectiveOrderActions(QBoxLayout *row);

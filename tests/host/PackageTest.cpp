@@ -41,7 +41,8 @@ TEST(Package, InstalledFromTheDebItMakesADatabaseAndStartsFromTheDesktopMenu)
                                          {QStringLiteral("-f"), deb, QStringLiteral("Depends")});
     for (const char *needed : {"libqt6widgets6", "libqt6sql6 ", "libqt6sql6-ibase",
                                "qt6-qpa-plugins", "libfbclient2", "firebird3.0-server-core",
-                               "firebird3.0-utils", "fonts-wine", "fonts-dejavu-core"})
+                               "firebird3.0-utils", "fonts-wine", "fonts-dejavu-core",
+                               "libxml2"})
         EXPECT_TRUE(fields.output.contains(QLatin1String(needed))) << needed << " in "
                                                                   << fields.output.toStdString();
 

@@ -1,0 +1,102 @@
+// haulix-print writing e-invoices: one invoice, or every invoice of a period.
+#include "DemoSeeder.h"
+#include "KsefFixture.h"
+#include "KsefSchema.h"
+#include "KsefXml.h"
+#include "ProgramRun.h"
+
+#include <QDir>
+#include <QFile>
+#include <QTemporaryDir>
+
+namespace {
+
+ProgramRun runPrint(const QStringList &arguments)
+{
+    return ProgramRun::of(QStringLiteral(HAULIX_PRINT_PATH), arguments);
+}
+
+} // namespace
+
+class KsefPrintTest : public KsefFixture
+{
+};
+
+TEST_F(KsefPrintTest, OneInvoiceIsOneValidFile)
+{
+    const QString file = dir.filePath(QStringLiteral("faktura.xml"));
+    const ProgramRun run = runPrint({QStringLiteral("--db"), db.path(), QStringLiteral("ksef"),
+                                     QString::number(invoice), file});
+    ASSERT_EQ(run.exitCode, 0) << run.errors.toStdString();
+    EXPECT_TRUE(run.errors.isEmpty()) << run.errors.toStdString();
+    const QByteArray document = fileText(file);
+    EXPECT_EQ(KsefSchema().problems(document), QStringList());
+    EXPECT_EQ(KsefXml(document).one("Fa/P_2"), "007/07/2026");
+}
+
+TEST_F(KsefPrintTest, ARefusalIsOneLineAndLeavesNoFile)
+{
+    db.exec(QStringLiteral("UPDATE DANE_FIRMY SET NIP = NULL"));
+    const QString file = dir.filePath(QStringLiteral("faktura.xml"));
+    ProgramRun run = runPrint({QStringLiteral("--db"), db.path(), QStringLiteral("ksef"),
+                               QString::number(invoice), file});
+    EXPECT_EQ(run.exitCode, 1);
+    EXPECT_EQ(run.errors, "Faktura 007/07/2026: w danych firmy nie ma NIP-u sprzedawcy. "
+                          "Uzupełnij NIP w danych firmy.\n");
+    EXPECT_FALSE(QFile::exists(file));
+
+    run = runPrint({QStringLiteral("--db"), db.path(), QStringLiteral("ksef"),
+                    QStringLiteral("9999"), file});
+    EXPECT_EQ(run.exitCode, 1);
+    EXPECT_EQ(run.errors, "Nie ma faktury o identyfikatorze 9999.\n");
+
+    // A range goes on past an invoice it cannot export and says so.
+    run = runPrint({QStringLiteral("--db"), db.path(), QStringLiteral("ksef-range"),
+                    QStringLiteral("2026-07-01"), QStringLiteral("2026-07-31"), dir.path()});
+    EXPECT_EQ(run.exitCode, 1);
+    EXPECT_EQ(run.errors.count(u'\n'), 1) << run.errors.toStdString();
+    EXPECT_TRUE(QDir(dir.path()).isEmpty());
+}
+
+TEST_F(KsefPrintTest, AWrongCommandLineSaysHowItGoes)
+{
+    ProgramRun run = runPrint({QStringLiteral("--db"), db.path(), QStringLiteral("ksef"),
+                               QStringLiteral("pierwsza"), dir.filePath(QStringLiteral("f.xml"))});
+    EXPECT_EQ(run.exitCode, 2);
+    EXPECT_EQ(run.errors, "Identyfikator musi być dodatnią liczbą całkowitą: pierwsza\n");
+
+    run = runPrint({QStringLiteral("--db"), db.path(), QStringLiteral("ksef-range"),
+                    QStringLiteral("2026-07-01"), dir.path()});
+    EXPECT_EQ(run.exitCode, 2);
+    EXPECT_TRUE(run.errors.startsWith("Polecenie ksef-range wymaga argumentów: OD DO KATALOG.\n"
+                                      "Użycie: haulix-print"));
+    EXPECT_TRUE(run.errors.contains("  ksef-range OD DO KATALOG "));
+}
+
+TEST(KsefDemoCompany, EveryInvoiceOfTheDemoCompanyIsOneValidFileNamedByItsNumber)
+{
+    TestDatabase db;
+    DemoSeeder::Options options;
+    options.orders = 150;
+    options.today = QDate(2026, 11, 22);
+    DemoSeeder(db.connection(), options).seed();
+    const int invoices = db.count(QStringLiteral("FAKTURY"));
+    ASSERT_GT(invoices, 10);
+
+    QTemporaryDir dir;
+    const QString target = dir.filePath(QStringLiteral("KSeF"));
+    const ProgramRun run = runPrint({QStringLiteral("--db"), db.path(),
+                                     QStringLiteral("ksef-range"), QStringLiteral("2026-01-01"),
+                                     QStringLiteral("2026-12-31"), target});
+    ASSERT_EQ(run.exitCode, 0) << run.errors.toStdString();
+    EXPECT_TRUE(run.errors.isEmpty()) << run.errors.toStdString();
+    const QStringList files = QDir(target).entryList(QDir::Files, QDir::Name);
+    ASSERT_EQ(files.size(), invoices);
+    const KsefSchema schema;
+    for (const QString &name : files) {
+        const QByteArray document = KsefFixture::fileText(QDir(target).filePath(name));
+        EXPECT_EQ(schema.problems(document), QStringList()) << name.toStdString();
+        const QString number = KsefXml(document).one("Fa/P_2");
+        EXPECT_EQ(name, QString(number).replace(u'/', u'_') + ".xml");
+    }
+}
