@@ -92,12 +92,14 @@ void TfrmAddEditZleceniaZbiorcze::FormCreate()
     setROFlatControls(true);
     setROCloseOnESC(true);
     TfrmRODefault::FormCreate();
+    const TDaneFirmy company;
+    m_appPath = company.GetAppPath();
     Connection *database = session().Database;
     CollectiveOrder order;
     order.date = DateTime::today();
     if (database) {
+        m_ownerKey = company.GetConfigInt(QStringLiteral("IDWłaściciela"));
         reportFailures(QStringLiteral("Nie można odczytać zlecenia zbiorczego"), [&] {
-            m_ownerKey = TDaneFirmy().GetConfigInt(QStringLiteral("IDWłaściciela"));
             if (m_mode == Edit)
                 order = CollectiveOrder::load(*database, m_key, m_ownerKey);
         });
@@ -184,7 +186,7 @@ bool TfrmAddEditZleceniaZbiorcze::textShown() const
 
 void TfrmAddEditZleceniaZbiorcze::checkFixedText()
 {
-    const bool exists = FixedTexts::exists(TDaneFirmy().GetAppPath(), seTekstStaly->value());
+    const bool exists = FixedTexts::exists(m_appPath, seTekstStaly->value());
     imgTekstJest->setVisible(exists);
     imgTekstBrak->setVisible(!exists);
 }
@@ -193,7 +195,7 @@ void TfrmAddEditZleceniaZbiorcze::showFixedText()
 {
     const int number = seTekstStaly->value();
     Messages::inform(QStringLiteral("Tekst stały nr %1").arg(number),
-                     FixedTexts::read(TDaneFirmy().GetAppPath(), number));
+                     FixedTexts::read(m_appPath, number));
 }
 
 void TfrmAddEditZleceniaZbiorcze::pickVehicle(Crew &crew)

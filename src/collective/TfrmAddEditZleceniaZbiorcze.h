@@ -106,6 +106,8 @@ private:
 
     int m_key;
     Mode m_mode;
+    // Where the fixed texts lie, read once: the check runs at every digit.
+    QString m_appPath;
     int m_ownerKey = 0;
     int m_ownTariff = 0;
     Crew m_own;
