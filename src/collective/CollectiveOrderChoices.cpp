@@ -20,7 +20,9 @@ CollectiveOrderChoices CollectiveOrderChoices::load(Connection &connection, int 
     }
     const QCollator collator{QLocale(QLocale::Polish, QLocale::Poland)};
     std::stable_sort(choices.carriers.begin(), choices.carriers.end(),
-                     [&](const Item &a, const Item &b) { return collator.compare(a.text, b.text) < 0; });
+                     [&](const Item &a, const Item &b) {
+                         return collator.compare(a.text, b.text) < 0;
+                     });
     for (const TStawki_vatObj &rate :
          TStawki_vatObj(connection).SelectAll(QStringLiteral("ID_STAWKI")))
         choices.vatRates.push_back({rate.ID_STAWKI, rate.OPIS});

@@ -60,7 +60,8 @@ TEST_F(CollectiveFromInvoicing, CorrectingTheCollectiveOrderNeedsTheEditPrivileg
     scriptedMessages().expect();
     Typing::click(form->frameListView1->BitBtn4);
     expectOne(QStringLiteral("Uprawnienia"),
-              QStringLiteral("Uprawnienia do tej operacji nie zostały nadane przez administratora."));
+              QStringLiteral("Uprawnienia do tej operacji nie zostały nadane przez "
+                             "administratora."));
     EXPECT_TRUE(scriptedModalRunner().ran().empty());
 
     db.exec(QStringLiteral("UPDATE USER_ACCESS SET PRIVIL_EDIT = 1"));

@@ -109,7 +109,8 @@ TEST_F(ConsignmentLists, ARowShowsTheOrdersPalletsAdviceAndCrew)
                                "09:45", "Ewa Łoś", "EL 2000", "18", "601 200 300"};
     ASSERT_EQ(list.columnCount(), expected.size());
     for (int column = 0; column < expected.size(); ++column)
-        EXPECT_EQ(list.text(0, column), expected[column]) << list.columnCaption(column).toStdString();
+        EXPECT_EQ(list.text(0, column), expected[column])
+            << list.columnCaption(column).toStdString();
     EXPECT_EQ(list.columnCaption(8), "Przewoźnik");
 }
 

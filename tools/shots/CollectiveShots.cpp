@@ -12,8 +12,8 @@ namespace {
 // fleet's with more pallets planned than its trailer takes.
 int run(int number)
 {
-    return demoKey(
-        QStringLiteral("SELECT ID_ZLECENIA_ZBIOR FROM ZLECENIA_ZBIOR WHERE NUMER = %1").arg(number));
+    return demoKey(QStringLiteral("SELECT ID_ZLECENIA_ZBIOR FROM ZLECENIA_ZBIOR WHERE NUMER = %1")
+                       .arg(number));
 }
 
 std::unique_ptr<QWidget> selection()

@@ -9,9 +9,10 @@
 DateRangeBar DateRangeBar::build(QWidget *panel, const QString &fromCaption,
                                  const QString &toCaption)
 {
+    const QString refresh = QStringLiteral("Odśwież");
     DateRangeBar bar{requiredDateEdit(QStringLiteral("deOd"), panel),
                      requiredDateEdit(QStringLiteral("deDo"), panel),
-                     TBitBtn::create(QStringLiteral("Odśwież"), QStringLiteral("btnOdswiez"), panel)};
+                     TBitBtn::create(refresh, QStringLiteral("btnOdswiez"), panel)};
     auto *layout = new QHBoxLayout(panel);
     layout->setContentsMargins(8, 4, 8, 4);
     for (const auto &[caption, field] : {std::pair{fromCaption, bar.from}, {toCaption, bar.to}}) {

@@ -52,7 +52,8 @@ void DemoSeeder::seedCollectiveOrders()
     {
         Statement st(m_connection);
         st.add(QStringLiteral("SELECT ID_ZLECENIA_PRZYCH FROM ZLECENIA_PRZYCH"));
-        st.add(QStringLiteral("WHERE DATA BETWEEN :aOd AND :aDo AND (IDFAKTURY IS NULL OR IDFAKTURY = 0)"));
+        st.add(QStringLiteral("WHERE DATA BETWEEN :aOd AND :aDo"));
+        st.add(QStringLiteral("AND (IDFAKTURY IS NULL OR IDFAKTURY = 0)"));
         st.add(QStringLiteral("ORDER BY ID_ZLECENIA_PRZYCH"));
         st.bind(QStringLiteral("aOd"), DateTime::fromDate(m_options.today.addDays(-4)));
         st.bind(QStringLiteral("aDo"), DateTime::fromDate(m_options.today.addDays(3)));
@@ -86,7 +87,8 @@ void DemoSeeder::seedCollectiveOrders()
         run.Insert();
 
         Statement plate(m_connection);
-        plate.add(QStringLiteral("SELECT POJAZD, KIEROWCA FROM VZLECENIA_ZBIOR WHERE ID_ZLECENIA_ZBIOR = :aId"));
+        plate.add(QStringLiteral("SELECT POJAZD, KIEROWCA FROM VZLECENIA_ZBIOR"));
+        plate.add(QStringLiteral("WHERE ID_ZLECENIA_ZBIOR = :aId"));
         plate.bind(QStringLiteral("aId"), run.ID_ZLECENIA_ZBIOR);
         plate.exec();
         const QString registration = plate.string(0);
@@ -96,7 +98,8 @@ void DemoSeeder::seedCollectiveOrders()
             if (free.empty())
                 break;
             Statement st(m_connection);
-            st.add(QStringLiteral("UPDATE ZLECENIA_PRZYCH SET IDZLECENIAZBIOR = :aZbior, PALETYPLAN = :aPlan,"));
+            st.add(QStringLiteral("UPDATE ZLECENIA_PRZYCH"));
+            st.add(QStringLiteral("SET IDZLECENIAZBIOR = :aZbior, PALETYPLAN = :aPlan,"));
             st.add(QStringLiteral("POJAZD = :aPojazd, KIEROWCA = :aKierowca, LADOWNOSCPALET = 33"));
             st.add(QStringLiteral("WHERE ID_ZLECENIA_PRZYCH = :aId"));
             st.bind(QStringLiteral("aZbior"), run.ID_ZLECENIA_ZBIOR);
