@@ -160,8 +160,8 @@ void EngineRows::Data::describe()
     columns.resize(std::size_t(count));
     for (int i = 0; i < count; ++i) {
         XSQLVAR &var = sqlda()->sqlvar[i];
-        // Every column gets a NULL flag, so that reading is one case.
-        var.sqltype |= 1;
+        // The columns as described: a changed type would make the engine
+        // convert every row. A column that cannot be NULL keeps its flag 0.
         var.sqldata = reinterpret_cast<char *>(buffer.data()) + offsets[std::size_t(i)];
         var.sqlind = &nulls[std::size_t(i)];
         columns[std::size_t(i)] = {short(var.sqltype & ~1), var.sqlscale, var.sqllen, var.sqldata,
