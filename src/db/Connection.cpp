@@ -3,12 +3,12 @@
 #include "DbError.h"
 #include "FirebirdEnvironment.h"
 #include "FirebirdLogin.h"
+#include "FirebirdStatus.h"
 
 #include <QAtomicInteger>
 #include <QFileInfo>
 #include <QSqlError>
 
-#include <ibase.h>
 
 namespace {
 
@@ -16,16 +16,6 @@ QString nextConnectionName()
 {
     static QAtomicInteger<quint64> counter;
     return QStringLiteral("haulix-%1").arg(++counter);
-}
-
-QString statusText(const ISC_STATUS *status)
-{
-    QStringList parts;
-    char buffer[1024];
-    const ISC_STATUS *cursor = status;
-    while (fb_interpret(buffer, sizeof buffer, &cursor))
-        parts << QString::fromLocal8Bit(buffer);
-    return parts.join(QStringLiteral(" - "));
 }
 
 void addParameter(QByteArray &dpb, char item, const QByteArray &value)
@@ -134,7 +124,7 @@ void Connection::createDatabase(const QString &target, const QString &user, cons
     isc_tr_handle tr = 0;
     if (isc_dsql_execute_immediate(status, &db, &tr, 0, statement.constData(), 3, nullptr)) {
         throw DbError(QStringLiteral("Nie można utworzyć bazy danych %1: %2")
-                          .arg(target, statusText(status)));
+                          .arg(target, firebirdStatusText(status)));
     }
     isc_detach_database(status, &db);
 }
@@ -152,7 +142,7 @@ void Connection::setForcedWrites(const QString &target, bool on, const QString &
     if (isc_attach_database(status, 0, path.constData(), &db, static_cast<short>(dpb.size()),
                             dpb.constData())) {
         throw DbError(QStringLiteral("Nie można zmienić trybu zapisu bazy danych %1: %2")
-                          .arg(target, statusText(status)));
+                          .arg(target, firebirdStatusText(status)));
     }
     isc_detach_database(status, &db);
 }
@@ -171,6 +161,6 @@ void Connection::dropDatabase(const QString &target, const QString &user,
         if (db)
             isc_detach_database(status, &db);
         throw DbError(QStringLiteral("Nie można usunąć bazy danych %1: %2")
-                          .arg(target, statusText(status)));
+                          .arg(target, firebirdStatusText(status)));
     }
 }

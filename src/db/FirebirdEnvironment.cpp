@@ -1,6 +1,7 @@
 #include "FirebirdEnvironment.h"
 
 #include "DbError.h"
+#include "LocalTimeZone.h"
 
 #include <QDir>
 #include <QFile>
@@ -49,6 +50,9 @@ QString writeConfiguration()
 
 QString FirebirdEnvironment::prepare()
 {
+    // Every program opens its first connection through here, early and
+    // from its main thread: the place to settle the process's time zone.
+    LocalTimeZone::pin();
     static const QString directory = [] {
         if (qEnvironmentVariableIsSet("FIREBIRD"))
             return qEnvironmentVariable("FIREBIRD");

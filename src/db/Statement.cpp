@@ -6,6 +6,7 @@
 #include <QSqlError>
 #include <QSqlField>
 #include <QSqlRecord>
+#include <QSqlResult>
 
 #include <cmath>
 
@@ -119,6 +120,18 @@ void Statement::fail(const QString &what) const
 
 void Statement::exec()
 {
+    openCursor();
+    if (m_query.isSelect())
+        next();
+}
+
+QVariant Statement::nativeHandle() const
+{
+    return m_active && m_query.result() ? m_query.result()->handle() : QVariant();
+}
+
+void Statement::openCursor()
+{
     refreshText();
     const QString &sql = m_text;
     for (const QString &name : std::as_const(m_placeholders)) {
@@ -148,8 +161,6 @@ void Statement::exec()
     if (!m_query.exec())
         fail(QStringLiteral("Błąd wykonania polecenia"));
     m_active = true;
-    if (m_query.isSelect())
-        next();
 }
 
 bool Statement::next()

@@ -45,6 +45,11 @@ public:
     // Runs the statement; a SELECT is then positioned on its first row.
     // Running a non-SELECT again with new values reuses the prepared statement.
     void exec();
+    // Runs a SELECT without reading its first row: for EngineRows, which
+    // then takes the rows from the engine itself.
+    void openCursor();
+    // The driver's handle of the prepared statement, valid while it is open.
+    QVariant nativeHandle() const;
     // Moves to the next row; false at the end.
     bool next();
     bool atEnd() const { return m_atEnd; }

@@ -1,8 +1,10 @@
 // The statements of the statements menu as they are laid out on their pages.
+#include "EngineRows.h"
 #include "MonthlyChart.h"
 #include "OrderListReader.h"
 #include "ReportTexts.h"
 #include "ReportsFixture.h"
+#include "RowTexts.h"
 #include "Statement.h"
 #include "TfrmPrintObrotyNaUseraFakt.h"
 #include "TfrmPrintObrotyNaUseraFaktObca.h"
@@ -81,12 +83,13 @@ TEST_F(Statements, RevenueIsTheRegistersForTheSameOrders)
     seedCompany();
     Statement st(db.connection());
     st.add(QStringLiteral("SELECT * FROM VZLECENIA_PRZYCH"));
-    st.exec();
-    const OrderListReader reader(st);
+    EngineRows orders(st);
+    const OrderListReader reader(orders);
     std::map<QString, double> registerRevenue;
-    for (; !st.atEnd(); st.next()) {
-        const OrderListRow row = reader.read();
-        registerRevenue[row.texts.at(0)] = row.revenue;
+    RowTexts texts;
+    while (orders.next()) {
+        const OrderListRow row = reader.read(texts);
+        registerRevenue[texts.cell(0).toString()] = row.revenue;
     }
     TfrmZestawienieKontrahenta statement(db.connection(), {QDate(2026, 1, 1), QDate(2026, 12, 31)},
                                          0);

@@ -146,3 +146,45 @@ TEST(DemoData, CreatingADatabaseNeverOverwrites)
     EXPECT_EQ(QFileInfo(db.path()).size(), size);
     EXPECT_THROW(Schema::createDatabase(QStringLiteral("/proc/haulix/nowa.fdb")), DbError);
 }
+
+TEST(DemoData, ALargeCompanysOrdersSpreadOverWorkingDaysEndingAMonthAhead)
+{
+    // More orders than the month either side of today holds at the daily
+    // rate of a forwarder: 3,700 at 80 a day need 47 working days.
+    DemoSeeder::Options options;
+    options.orders = 3700;
+    options.today = QDate(2026, 11, 22);
+    TestDatabase db;
+    DemoSeeder(db.connection(), options).seed();
+
+    const QString dated = QStringLiteral("DATA IS NOT NULL");
+    EXPECT_EQ(db.count(QStringLiteral("ZLECENIA_PRZYCH"), dated), 3700);
+    EXPECT_EQ(db.scalar(QStringLiteral("SELECT CAST(MAX(DATA) AS DATE) FROM ZLECENIA_PRZYCH")),
+              QStringLiteral("2026-12-23"));
+    // 47 working days back from Wednesday 23 December is Tuesday 20 October.
+    EXPECT_EQ(db.scalar(QStringLiteral("SELECT CAST(MIN(DATA) AS DATE) FROM ZLECENIA_PRZYCH")),
+              QStringLiteral("2026-10-20"));
+    EXPECT_EQ(db.scalar(QStringLiteral("SELECT COUNT(DISTINCT DATA) FROM ZLECENIA_PRZYCH")),
+              QStringLiteral("47"));
+    EXPECT_EQ(db.count(QStringLiteral("ZLECENIA_PRZYCH"),
+                       QStringLiteral("EXTRACT(WEEKDAY FROM DATA) IN (0, 6)")), 0);
+
+    // Road cards every third day from the first orders up to yesterday, and
+    // an order's card is one of its own days.
+    EXPECT_EQ(db.count(QStringLiteral("KARTY_DR")), 11);
+    EXPECT_EQ(db.scalar(QStringLiteral("SELECT CAST(MIN(Z_DNIA) AS DATE) FROM KARTY_DR")),
+              QStringLiteral("2026-10-20"));
+    EXPECT_GT(db.count(QStringLiteral("ZLECENIA_PRZYCH"), QStringLiteral("IDKARTYDR <> 0")), 0);
+    EXPECT_EQ(db.count(QStringLiteral("ZLECENIA_PRZYCH z JOIN KARTY_DR k ON k.ID_KARTY_DR = z.IDKARTYDR"),
+                       QStringLiteral("z.DATA < k.Z_DNIA OR z.DATA >= k.Z_DNIA + 3")),
+              0);
+
+    // Invoices and carriers' invoices keep their shares of the orders: most
+    // orders older than five days invoiced, some carriers' invoices in.
+    const int old = db.count(QStringLiteral("ZLECENIA_PRZYCH"), QStringLiteral("DATA <= '2026-11-17'"));
+    const int invoiced = db.count(QStringLiteral("ZLECENIA_PRZYCH"), QStringLiteral("IDFAKTURY <> 0"));
+    EXPECT_GT(invoiced, old * 7 / 10);
+    EXPECT_LT(invoiced, old * 9 / 10);
+    EXPECT_GT(db.count(QStringLiteral("ZLECENIA_PRZYCH"), QStringLiteral("NUMER_FAKT_PRZEW <> ''")),
+              old / 10);
+}

@@ -1,7 +1,8 @@
 #include "DecimalDigits.h"
 
+#include <charconv>
 #include <cmath>
-#include <cstdio>
+#include <iterator>
 #include <cstdlib>
 
 namespace {
@@ -29,8 +30,11 @@ DecimalDigits DecimalDigits::of(double value)
     if (value == 0.0 || !std::isfinite(value))
         return result;
     result.negative = value < 0;
-    char buffer[40];
-    std::snprintf(buffer, sizeof buffer, "%.*e", SignificantDigits - 1, std::fabs(value));
+    // As printf's "%.14e" writes it, several times faster: the lists
+    // format a few numbers on each of their rows.
+    char buffer[40] = {};
+    std::to_chars(std::begin(buffer), std::end(buffer) - 1, std::fabs(value),
+                  std::chars_format::scientific, SignificantDigits - 1);
     // d.ddddddddddddddde±XX
     result.digits.append(buffer[0]);
     result.digits.append(buffer + 2, SignificantDigits - 1);

@@ -3,8 +3,10 @@
 #include "DateTime.h"
 #include "DecimalDigits.h"
 
+#include <algorithm>
 #include <charconv>
 #include <cmath>
+#include <cstdlib>
 
 namespace Format {
 
@@ -65,45 +67,43 @@ NumberPattern parsePattern(QStringView pattern)
     return parsed;
 }
 
-QString grouped(const QString &integerDigits)
-{
-    QString result;
-    result.reserve(integerDigits.size() + integerDigits.size() / 3);
-    for (qsizetype i = 0; i < integerDigits.size(); ++i) {
-        if (i > 0 && (integerDigits.size() - i) % 3 == 0)
-            result += ThousandSeparator;
-        result += integerDigits[i];
-    }
-    return result;
-}
-
 } // namespace
 
 QString number(double value, QStringView pattern)
 {
+    // Written straight into the result: the lists format several numbers on
+    // each of their rows.
     const NumberPattern parsed = parsePattern(pattern);
-    const DecimalDigits decimal = DecimalDigits::of(value);
-    QString scaled = QString::fromLatin1(decimal.scaledInteger(parsed.maxDecimals));
-    const bool negative = decimal.negative && !scaled.isEmpty();
-    if (scaled.size() < parsed.maxDecimals)
-        scaled = QString(parsed.maxDecimals - scaled.size(), u'0') + scaled;
+    const QByteArray scaled = DecimalDigits::of(value).scaledInteger(parsed.maxDecimals);
+    const bool negative = value < 0 && !scaled.isEmpty();
+    // The scaled digits, padded on the left to at least the decimals.
+    const qsizetype count = std::max<qsizetype>(scaled.size(), parsed.maxDecimals);
+    const qsizetype padding = count - scaled.size();
+    const auto digit = [&](qsizetype i) { return QLatin1Char(i < padding ? '0' : scaled[i - padding]); };
+    const qsizetype integers = count - parsed.maxDecimals;
+    qsizetype decimals = parsed.maxDecimals;
+    while (decimals > parsed.minDecimals && digit(integers + decimals - 1) == QLatin1Char('0'))
+        --decimals;
+    const qsizetype shown = std::max<qsizetype>(integers, parsed.minIntegerDigits);
 
-    QString integerPart = scaled.left(scaled.size() - parsed.maxDecimals);
-    QString fraction = scaled.right(parsed.maxDecimals);
-    while (fraction.size() > parsed.minDecimals && fraction.endsWith(u'0'))
-        fraction.chop(1);
-    if (integerPart.size() < parsed.minIntegerDigits)
-        integerPart = QString(parsed.minIntegerDigits - integerPart.size(), u'0') + integerPart;
-    if (parsed.grouping)
-        integerPart = grouped(integerPart);
-
-    QString result = parsed.prefix;
+    QString result;
+    result.reserve(parsed.prefix.size() + parsed.suffix.size() + 2 * shown + decimals + 2);
+    result += parsed.prefix;
     if (negative)
         result += u'-';
-    result += integerPart;
-    if (!fraction.isEmpty())
-        result += DecimalSeparator + fraction;
-    return result + parsed.suffix;
+    for (qsizetype i = 0; i < shown; ++i) {
+        if (parsed.grouping && i > 0 && (shown - i) % 3 == 0)
+            result += ThousandSeparator;
+        const qsizetype at = i - (shown - integers);
+        result += at < 0 ? QLatin1Char('0') : digit(at);
+    }
+    if (decimals > 0) {
+        result += DecimalSeparator;
+        for (qsizetype i = 0; i < decimals; ++i)
+            result += digit(integers + i);
+    }
+    result += parsed.suffix;
+    return result;
 }
 
 QString general(double value)
@@ -113,20 +113,37 @@ QString general(double value)
     const DecimalDigits decimal = DecimalDigits::of(value);
     if (decimal.digits.isEmpty())
         return QStringLiteral("0");
-    const QString digits = QString::fromLatin1(decimal.digits);
+    const QLatin1StringView digits(decimal.digits);
+    const qsizetype size = digits.size();
     const int exponent = decimal.exponent;
-    QString result = decimal.negative ? QStringLiteral("-") : QString();
+    QString result;
+    result.reserve(size + std::abs(exponent) + 8);
+    if (decimal.negative)
+        result += u'-';
     if (exponent > GeneralPrecision || exponent < -4) {
         result += digits.left(1);
-        if (digits.size() > 1)
-            result += DecimalSeparator + digits.mid(1);
+        if (size > 1) {
+            result += DecimalSeparator;
+            result += digits.mid(1);
+        }
         return result + u'E' + QString::number(exponent - 1);
     }
-    if (exponent <= 0)
-        return result + u'0' + DecimalSeparator + QString(-exponent, u'0') + digits;
-    if (digits.size() <= exponent)
-        return result + digits + QString(exponent - digits.size(), u'0');
-    return result + digits.left(exponent) + DecimalSeparator + digits.mid(exponent);
+    if (exponent <= 0) {
+        result += u'0';
+        result += DecimalSeparator;
+        for (int i = 0; i < -exponent; ++i)
+            result += u'0';
+        return result += digits;
+    }
+    if (size <= exponent) {
+        result += digits;
+        for (qsizetype i = size; i < exponent; ++i)
+            result += u'0';
+        return result;
+    }
+    result += digits.left(exponent);
+    result += DecimalSeparator;
+    return result += digits.mid(exponent);
 }
 
 QString date(const QDate &date)

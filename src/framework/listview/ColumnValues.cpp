@@ -70,7 +70,7 @@ Summary summarize(const TListViewModel &model, int column)
     Summary summary;
     summary.rows = model.rows();
     for (int row = 0; row < model.rows(); ++row) {
-        const QString &text = model.text(row, column);
+        const QString text = model.text(row, column);
         // A lone "-" passes the character test but is no number.
         const auto value = isNumeric(text) ? Format::parseNumber(text) : std::nullopt;
         if (!value) {
@@ -109,12 +109,11 @@ WriteResult writeCsv(const TListViewModel &model, const QString &path)
     }
     buffer += line.toUtf8() + "\r\n";
     for (int row = 0; row < model.rows(); ++row) {
-        const QStringList &texts = model.texts(row);
         line.clear();
-        for (qsizetype i = 0; i < texts.size(); ++i) {
-            if (i > 0)
+        for (int column = 0; column < model.cells(row); ++column) {
+            if (column > 0)
                 line += u';';
-            line += exportText(texts[i]);
+            line += exportText(model.text(row, column));
         }
         buffer += line.toUtf8();
         buffer += "\r\n";

@@ -45,12 +45,12 @@ std::vector<int> mergeSorted(int count, Greater greater)
 std::vector<int> textRanks(const TListViewModel &model, int column)
 {
     const int rows = model.rows();
-    QHash<QString, int> distinctIds;
+    QHash<QStringView, int> distinctIds;
     distinctIds.reserve(rows);
-    std::vector<const QString *> distinct;
+    std::vector<QStringView> distinct;
     std::vector<int> rowIds(static_cast<size_t>(rows));
     for (int row = 0; row < rows; ++row) {
-        const QString &text = model.text(row, column);
+        const QStringView text = model.textView(row, column);
         const auto found = distinctIds.constFind(text);
         if (found != distinctIds.constEnd()) {
             rowIds[row] = found.value();
@@ -58,7 +58,7 @@ std::vector<int> textRanks(const TListViewModel &model, int column)
         }
         const int id = static_cast<int>(distinct.size());
         distinctIds.insert(text, id);
-        distinct.push_back(&text);
+        distinct.push_back(text);
         rowIds[row] = id;
     }
 
@@ -66,8 +66,8 @@ std::vector<int> textRanks(const TListViewModel &model, int column)
     collator.setCaseSensitivity(Qt::CaseInsensitive);
     std::vector<QCollatorSortKey> keys;
     keys.reserve(distinct.size());
-    for (const QString *text : distinct)
-        keys.push_back(collator.sortKey(*text));
+    for (const QStringView text : distinct)
+        keys.push_back(collator.sortKey(text.toString()));
     std::vector<int> byKey(distinct.size());
     std::iota(byKey.begin(), byKey.end(), 0);
     std::sort(byKey.begin(), byKey.end(),
@@ -96,7 +96,7 @@ std::vector<TypedValue> typedValues(const TListViewModel &model, int column, Sor
 {
     std::vector<TypedValue> values(static_cast<size_t>(model.rows()));
     for (int row = 0; row < model.rows(); ++row) {
-        const QString &text = model.text(row, column);
+        const QString text = model.text(row, column);
         if (text.isEmpty())
             continue;
         if (kind == SortKind::Date) {

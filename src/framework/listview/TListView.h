@@ -48,7 +48,8 @@ public:
     QString caption(int row) const { return m_model->text(row, 0); }
     QString subItem(int row, int index) const { return m_model->text(row, index + 1); }
     // Column 0 is the caption.
-    const QString &text(int row, int column) const { return m_model->text(row, column); }
+    QString text(int row, int column) const { return m_model->text(row, column); }
+    QStringView textView(int row, int column) const { return m_model->textView(row, column); }
     int key(int row) const { return m_model->key(row); }
     int image(int row) const { return m_model->image(row); }
     // -1 when no row is selected.

@@ -1,20 +1,11 @@
 #include "TListViewModel.h"
 
+#include "RowTexts.h"
 #include "TImageList.h"
 
 #include <QBrush>
 
 #include <algorithm>
-
-namespace {
-
-const QString &emptyText()
-{
-    static const QString empty;
-    return empty;
-}
-
-} // namespace
 
 TListViewModel::TListViewModel(QObject *parent) : QAbstractTableModel(parent)
 {
@@ -79,8 +70,19 @@ void TListViewModel::clearColumns()
 
 int TListViewModel::addRow(const QStringList &texts, int key, int image)
 {
+    return appendRow(PackedTexts(texts.isEmpty() ? QStringList{QString()} : texts), key, image);
+}
+
+int TListViewModel::addRow(const RowTexts &texts, int key, int image)
+{
+    return texts.cells() == 0 ? addRow(QStringList(), key, image)
+                              : appendRow(PackedTexts(texts), key, image);
+}
+
+int TListViewModel::appendRow(PackedTexts texts, int key, int image)
+{
     const int row = rows();
-    Row added{texts.isEmpty() ? QStringList{QString()} : texts, key, image};
+    Row added{std::move(texts), key, image};
     if (updating()) {
         m_rows.push_back(std::move(added));
         return row;
@@ -91,23 +93,23 @@ int TListViewModel::addRow(const QStringList &texts, int key, int image)
     return row;
 }
 
-const QString &TListViewModel::text(int row, int column) const
+QStringView TListViewModel::textView(int row, int column) const
 {
-    const QStringList &texts = m_rows.at(row).texts;
-    return column >= 0 && column < texts.size() ? texts[column] : emptyText();
+    return m_rows.at(row).texts.cell(column);
 }
 
-const QStringList &TListViewModel::texts(int row) const
+QStringList TListViewModel::texts(int row) const
 {
-    return m_rows.at(row).texts;
+    return m_rows.at(row).texts.toList();
 }
 
 void TListViewModel::setText(int row, int column, const QString &text)
 {
-    QStringList &texts = m_rows.at(row).texts;
+    QStringList texts = m_rows.at(row).texts.toList();
     while (texts.size() <= column)
         texts.append(QString());
     texts[column] = text;
+    m_rows[row].texts = PackedTexts(texts);
     rowChanged(row, column);
 }
 

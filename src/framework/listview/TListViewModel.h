@@ -1,5 +1,7 @@
 #pragma once
 
+#include "PackedTexts.h"
+
 #include <QAbstractTableModel>
 #include <QFont>
 #include <QStringList>
@@ -7,6 +9,7 @@
 #include <functional>
 #include <vector>
 
+class RowTexts;
 class TImageList;
 
 // The rows of a report-style list, kept compactly: per row the caption and
@@ -36,11 +39,16 @@ public:
 
     // Rows: texts[0] is the caption, the rest the sub-items.
     int addRow(const QStringList &texts, int key = 0, int image = -1);
+    int addRow(const RowTexts &texts, int key = 0, int image = -1);
     int rows() const { return static_cast<int>(m_rows.size()); }
     // Column 0 is the caption, column c the sub-item c - 1; a sub-item the
     // row does not have reads as an empty text.
-    const QString &text(int row, int column) const;
-    const QStringList &texts(int row) const;
+    QString text(int row, int column) const { return textView(row, column).toString(); }
+    // The same without a copy, valid until the row changes.
+    QStringView textView(int row, int column) const;
+    QStringList texts(int row) const;
+    // How many texts the row has (the caption and its sub-items).
+    int cells(int row) const { return m_rows.at(row).texts.count(); }
     void setText(int row, int column, const QString &text);
     int key(int row) const;
     void setKey(int row, int key);
@@ -98,12 +106,13 @@ private:
     };
     struct Row
     {
-        QStringList texts;
+        PackedTexts texts;
         int key = 0;
         int image = -1;
         bool checked = false;
     };
 
+    int appendRow(PackedTexts texts, int key, int image);
     void rowChanged(int row, int column);
 
     std::vector<Column> m_columns;

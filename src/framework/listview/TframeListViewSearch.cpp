@@ -56,7 +56,7 @@ void TframeListView::sortListView(TListView &list)
 
 bool TframeListView::rowMatches(int row, int column, const QString &wanted, int option) const
 {
-    const QString &text = lvMain->text(row, column);
+    const QStringView text = lvMain->textView(row, column);
     const Qt::CaseSensitivity sensitivity =
         acCaseSensitive->isChecked() ? Qt::CaseInsensitive : Qt::CaseSensitive;
     switch (option) {

@@ -1,21 +1,45 @@
 #include "OrderListReader.h"
 
-#include "DbError.h"
+#include "EngineRows.h"
 #include "Format.h"
-#include "OrderListColumns.h"
-#include "Statement.h"
+#include "RowTexts.h"
+
+#include <charconv>
 
 namespace {
 
-QString zeroPadded(int number, int width)
+// A whole number as QString::number writes it, padded on the left with
+// zeros to the width (a longer one is kept whole), onto the text.
+void appendZeroPadded(QString &text, int number, int width = 0)
 {
-    return QString::number(number).rightJustified(width, u'0');
+    char digits[16];
+    const auto written = std::to_chars(std::begin(digits), std::end(digits), number).ptr;
+    for (auto length = int(written - digits); length < width; ++length)
+        text += u'0';
+    text += QLatin1StringView(digits, written - digits);
+}
+
+// yyyy-MM-dd, nothing for the null date: what Format::date writes.
+void appendDate(QString &text, DateTime value)
+{
+    const QDate date = value.isNull() ? QDate() : value.date();
+    if (!date.isValid())
+        return;
+    if (date.year() < 1000 || date.year() > 9999) {
+        text += Format::date(date);
+        return;
+    }
+    appendZeroPadded(text, date.year());
+    text += u'-';
+    appendZeroPadded(text, date.month(), 2);
+    text += u'-';
+    appendZeroPadded(text, date.day(), 2);
 }
 
 } // namespace
 
-OrderListReader::OrderListReader(const Statement &statement)
-    : m_statement(statement),
+OrderListReader::OrderListReader(const EngineRows &rows)
+    : m_rows(rows),
       m_key(column("ID_ZLECENIA_PRZYCH")),
       m_numer(column("NUMER")),
       m_kontrahent(column("KONTRAHENT")),
@@ -32,7 +56,7 @@ OrderListReader::OrderListReader(const Statement &statement)
       m_pojazd(column("POJAZD")),
       m_numerObcaFak(column("NUMER_OBCA_FAK")),
       m_kosztRazem(column("KOSZTRAZEM")),
-      m_revenue(statement),
+      m_revenue(rows),
       m_kwotaObcaFakt(column("KWOTA_OBCA_FAKT")),
       m_operator(column("OPERATOR")),
       m_filtr1(column("FILTR1")),
@@ -44,37 +68,60 @@ OrderListReader::OrderListReader(const Statement &statement)
 
 int OrderListReader::column(const char *name) const
 {
-    const int index = m_statement.columnIndex(QString::fromLatin1(name));
-    if (index < 0)
-        throw DbError(
-            QStringLiteral("Brak kolumny %1 w liście zleceń.").arg(QLatin1String(name)));
-    return index;
+    return OrderRevenueColumns::required(m_rows, name);
 }
 
-OrderListRow OrderListReader::read() const
+OrderListRow OrderListReader::read(RowTexts &texts) const
 {
-    const Statement &st = m_statement;
+    const EngineRows &rows = m_rows;
     OrderListRow row;
-    row.key = st.integer(m_key);
-    row.closed = st.integer(m_zamkniete) != 0;
+    row.key = rows.integer(m_key);
+    row.closed = rows.integer(m_zamkniete) != 0;
+    row.revenue = m_revenue.revenue(rows);
+    const double cost = rows.number(m_kosztRazem);
+    const int invoiceNumber = rows.integer(m_nrFaktury);
 
-    row.revenue = m_revenue.revenue(st);
-    const double cost = st.number(m_kosztRazem);
-    const int invoiceNumber = st.integer(m_nrFaktury);
-
-    row.texts.reserve(OrderListColumns::Count);
-    row.texts << zeroPadded(st.integer(m_numer), 8) << st.string(m_kontrahent)
-              << st.string(m_przewoznik) << st.string(m_kierowca) << st.string(m_numerObcy)
-              << Format::date(st.dateTime(m_data))
-              << st.string(m_miastoOd) + u'-' + st.string(m_miastoVia) + u'-'
-                     + st.string(m_miastoDo)
-              << (invoiceNumber < 1 ? QStringLiteral("-") : zeroPadded(invoiceNumber, 5))
-              << zeroPadded(st.integer(m_nrKarty), 5) << zeroPadded(st.integer(m_nrListu), 6)
-              << st.string(m_pojazd) << st.string(m_numerObcaFak) << Format::general(cost)
-              << Format::number(row.revenue, u"#,##0.00")
-              << Format::number(row.revenue - cost, u"#,##0.00")
-              << Format::general(st.number(m_kwotaObcaFakt)) << st.string(m_operator)
-              << st.string(m_filtr1) << QString::number(st.integer(m_idKontrahent))
-              << QString::number(st.integer(m_idPrzewoznik)) << QString::number(row.key);
+    texts.clear();
+    QString &text = texts.text();
+    const auto cell = [&](int index) {
+        rows.appendString(index, text);
+        texts.endCell();
+    };
+    appendZeroPadded(text, rows.integer(m_numer), 8);
+    texts.endCell();
+    cell(m_kontrahent);
+    cell(m_przewoznik);
+    cell(m_kierowca);
+    cell(m_numerObcy);
+    appendDate(text, rows.dateTime(m_data));
+    texts.endCell();
+    rows.appendString(m_miastoOd, text);
+    text += u'-';
+    rows.appendString(m_miastoVia, text);
+    text += u'-';
+    cell(m_miastoDo);
+    if (invoiceNumber < 1)
+        text += u'-';
+    else
+        appendZeroPadded(text, invoiceNumber, 5);
+    texts.endCell();
+    appendZeroPadded(text, rows.integer(m_nrKarty), 5);
+    texts.endCell();
+    appendZeroPadded(text, rows.integer(m_nrListu), 6);
+    texts.endCell();
+    cell(m_pojazd);
+    cell(m_numerObcaFak);
+    texts.add(Format::general(cost));
+    texts.add(Format::number(row.revenue, u"#,##0.00"));
+    texts.add(Format::number(row.revenue - cost, u"#,##0.00"));
+    texts.add(Format::general(rows.number(m_kwotaObcaFakt)));
+    cell(m_operator);
+    cell(m_filtr1);
+    appendZeroPadded(text, rows.integer(m_idKontrahent));
+    texts.endCell();
+    appendZeroPadded(text, rows.integer(m_idPrzewoznik));
+    texts.endCell();
+    appendZeroPadded(text, row.key);
+    texts.endCell();
     return row;
 }

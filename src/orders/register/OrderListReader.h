@@ -2,14 +2,12 @@
 
 #include "OrderRevenueColumns.h"
 
-#include <QStringList>
+class EngineRows;
+class RowTexts;
 
-class Statement;
-
-// One order as the register lists it.
+// What the register keeps of an order besides its column texts.
 struct OrderListRow
 {
-    QStringList texts;   // the column texts, the caption ("Numer") first
     int key = 0;         // ID_ZLECENIA_PRZYCH
     bool closed = false;
     double revenue = 0.0;
@@ -17,18 +15,20 @@ struct OrderListRow
 
 // Turns the rows of the register's statement (the view VZLECENIA_PRZYCH)
 // into list rows. The columns are looked up once, when the reader is made
-// on the executed statement; read() then takes the current row.
+// on the executed statement's rows; read() then takes the current row.
 class OrderListReader
 {
 public:
-    explicit OrderListReader(const Statement &statement);
+    explicit OrderListReader(const EngineRows &rows);
 
-    OrderListRow read() const;
+    // Writes the current row's column texts, the caption ("Numer") first,
+    // into texts (emptied first) and returns the rest.
+    OrderListRow read(RowTexts &texts) const;
 
 private:
     int column(const char *name) const;
 
-    const Statement &m_statement;
+    const EngineRows &m_rows;
     int m_key, m_numer, m_kontrahent, m_przewoznik, m_kierowca, m_numerObcy, m_data;
     int m_miastoOd, m_miastoVia, m_miastoDo, m_nrFaktury, m_nrKarty, m_nrListu, m_pojazd;
     int m_numerObcaFak, m_kosztRazem;

@@ -1,9 +1,11 @@
 // How the register fills its list and enables its actions.
 #include "TfrmZlecPrzychodzace.h"
 
+#include "EngineRows.h"
 #include "Format.h"
 #include "OrderListReader.h"
 #include "ReportFailures.h"
+#include "RowTexts.h"
 #include "SessionContext.h"
 #include "Statement.h"
 #include "TframeListView.h"
@@ -41,13 +43,16 @@ void TfrmZlecPrzychodzace::LoadLVData()
         Statement st(*database);
         st.setUniDirectional(true);
         OrderListQuery::prepare(st, filter());
-        st.exec();
-        const OrderListReader reader(st);
+        // The list of a large company runs to many thousands of rows: they
+        // come straight from the engine, their texts built in one buffer.
+        EngineRows orders(st);
+        const OrderListReader reader(orders);
         TListViewModel &rows = list.items();
-        for (; !st.atEnd(); st.next()) {
-            const OrderListRow row = reader.read();
+        RowTexts texts;
+        while (orders.next()) {
+            const OrderListRow row = reader.read(texts);
             m_total += row.revenue;
-            rows.addRow(row.texts, row.key, row.closed ? ClosedOrderImage : -1);
+            rows.addRow(texts, row.key, row.closed ? ClosedOrderImage : -1);
         }
     });
     lblKwota->setText(Format::number(m_total, u"#,##0.00"));

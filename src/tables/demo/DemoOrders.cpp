@@ -69,6 +69,56 @@ void settleCarrierInvoice(TZlecenia_przychObj &o, QDate issued, QDate today, int
 
 } // namespace
 
+bool DemoSeeder::spreadOverYears() const
+{
+    return m_options.orders > OrdersPerWorkingDay * workingDaysAround(m_options.today);
+}
+
+int DemoSeeder::firstOrderOffset() const
+{
+    if (!spreadOverYears())
+        return -AroundToday;
+    // Back from a month after today over as many working days as the
+    // orders need.
+    const int needed = (m_options.orders + OrdersPerWorkingDay - 1) / OrdersPerWorkingDay;
+    int offset = AroundToday;
+    for (int found = 0;; --offset) {
+        if (isWorkingDay(m_options.today.addDays(offset)) && ++found == needed)
+            return offset;
+    }
+}
+
+std::vector<int> DemoSeeder::orderDayOffsets()
+{
+    std::vector<int> offsets;
+    offsets.reserve(std::size_t(m_options.orders));
+    if (!spreadOverYears()) {
+        for (int i = 0; i < m_options.orders; ++i)
+            offsets.push_back(int(m_random.bounded(2 * AroundToday + 1)) - AroundToday);
+    } else {
+        std::vector<int> workingDays;
+        for (int offset = firstOrderOffset(); offset <= AroundToday; ++offset) {
+            if (isWorkingDay(m_options.today.addDays(offset)))
+                workingDays.push_back(offset);
+        }
+        for (int i = 0; i < m_options.orders; ++i)
+            offsets.push_back(workingDays[m_random.bounded(int(workingDays.size()))]);
+    }
+    std::sort(offsets.begin(), offsets.end());
+    return offsets;
+}
+
+int DemoSeeder::firstRoadCardOffset() const
+{
+    return spreadOverYears() ? firstOrderOffset() : RoadCardDays - AroundToday;
+}
+
+std::size_t DemoSeeder::roadCardNear(int offset) const
+{
+    const int card = (offset - firstRoadCardOffset()) / RoadCardDays;
+    return std::size_t(std::clamp(card, 0, int(m_cardKeys.size()) - 1));
+}
+
 const TTaryfyprzewoznikaObj &DemoSeeder::tariffWithKey(int key)
 {
     if (m_tariffs.empty())
@@ -82,11 +132,7 @@ const TTaryfyprzewoznikaObj &DemoSeeder::tariffWithKey(int key)
 
 std::vector<DemoSeeder::PlannedOrder> DemoSeeder::planOrders()
 {
-    std::vector<int> offsets;
-    offsets.reserve(std::size_t(m_options.orders));
-    for (int i = 0; i < m_options.orders; ++i)
-        offsets.push_back(int(m_random.bounded(63)) - 31);
-    std::sort(offsets.begin(), offsets.end());
+    const std::vector<int> offsets = orderDayOffsets();
 
     std::vector<PlannedOrder> plan;
     plan.reserve(offsets.size());
@@ -160,7 +206,9 @@ std::vector<DemoSeeder::PlannedOrder> DemoSeeder::planOrders()
             o.KIEROWCA = QString::fromUtf8(Drivers[v].firstName) + QLatin1Char(' ')
                 + QString::fromUtf8(Drivers[v].surname);
             if (offset < 0 && m_random.bounded(2) == 0) {
-                const std::size_t card = m_random.bounded(int(m_cardKeys.size()));
+                const std::size_t drawn = m_random.bounded(int(m_cardKeys.size()));
+                // Over years, the card is one of the order's own weeks.
+                const std::size_t card = spreadOverYears() ? roadCardNear(offset) : drawn;
                 o.IDKARTYDR = m_cardKeys[card];
                 o.NR_KARTY = int(card) + 1;
             }

@@ -42,6 +42,14 @@ void DemoSeeder::exec(const QString &sql)
     st.exec();
 }
 
+int DemoSeeder::workingDaysAround(const QDate &today)
+{
+    int days = 0;
+    for (int offset = -AroundToday; offset <= AroundToday; ++offset)
+        days += isWorkingDay(today.addDays(offset)) ? 1 : 0;
+    return days;
+}
+
 int DemoSeeder::lastKey(const QString &table)
 {
     // The generator's current value is the key just assigned; MAX would
@@ -447,10 +455,13 @@ void DemoSeeder::seedFleet()
         m_vehicleKeys.push_back(lastKey(QStringLiteral("POJAZDY")));
     }
     TKarty_drObj card(m_connection);
-    for (int i = 0; i < 10; ++i) {
+    // One card every few days up to yesterday, from the first orders on.
+    const int firstCard = firstRoadCardOffset();
+    const int cards = (-1 - firstCard) / RoadCardDays + 1;
+    for (int i = 0; i < cards; ++i) {
         const std::size_t v = std::size_t(i) % m_vehicleKeys.size();
         card.NUMER = i + 1;
-        card.Z_DNIA = DateTime::fromDate(m_options.today.addDays(-28 + 3 * i));
+        card.Z_DNIA = DateTime::fromDate(m_options.today.addDays(firstCard + RoadCardDays * i));
         card.IDPOJAZD = m_vehicleKeys[v];
         card.IDKIEROWCA = m_driverKeys[v];
         card.IDNACZEPA = v < trailerKeys.size() ? trailerKeys[v] : 0;

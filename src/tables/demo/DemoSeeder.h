@@ -67,6 +67,21 @@ private:
     void seedSiblingRegisters();
     void seedCollectiveOrders();
 
+    // A small company's orders fall on every day a month either side of
+    // today; a larger one's on working days at about the rate a forwarder
+    // of that size takes them, over as many years as that needs, ending a
+    // month after today. Road cards follow the same span.
+    static constexpr int AroundToday = 31;
+    static constexpr int OrdersPerWorkingDay = 80;
+    static constexpr int RoadCardDays = 3;
+    static bool isWorkingDay(const QDate &day) { return day.dayOfWeek() <= 5; }
+    static int workingDaysAround(const QDate &today);
+    bool spreadOverYears() const;
+    int firstOrderOffset() const;
+    int firstRoadCardOffset() const;
+    std::vector<int> orderDayOffsets();
+    std::size_t roadCardNear(int offset) const;
+
     std::vector<PlannedOrder> planOrders();
     void planInvoices(std::vector<PlannedOrder> &orders);
     void insertOrder(PlannedOrder &planned, OrderWriter &writer);

@@ -1,8 +1,10 @@
 #include "DbError.h"
+#include "EngineRows.h"
 #include "Format.h"
 #include "OrderListColumns.h"
 #include "OrderListQuery.h"
 #include "OrderListReader.h"
+#include "RowTexts.h"
 #include "Statement.h"
 #include "TZlecenia_przychObj.h"
 #include "TestData.h"
@@ -41,19 +43,27 @@ protected:
         return order.GetMaxId();
     }
 
+    struct Listed : OrderListRow
+    {
+        QStringList texts;
+    };
+
     // Every row the register's statement lists for March 2026, by key.
-    std::map<int, OrderListRow> listed()
+    std::map<int, Listed> listed()
     {
         OrderListFilter march;
         march.from = QDate(2026, 3, 1);
         march.to = QDate(2026, 3, 31);
         Statement st(db.connection());
         OrderListQuery::prepare(st, march);
-        st.exec();
-        const OrderListReader reader(st);
-        std::map<int, OrderListRow> rows;
-        for (; !st.atEnd(); st.next()) {
-            const OrderListRow row = reader.read();
+        EngineRows orders(st);
+        const OrderListReader reader(orders);
+        std::map<int, Listed> rows;
+        RowTexts texts;
+        while (orders.next()) {
+            Listed row{reader.read(texts), {}};
+            for (int i = 0; i < texts.cells(); ++i)
+                row.texts << texts.cell(i).toString();
             rows.emplace(row.key, row);
         }
         return rows;
@@ -93,7 +103,7 @@ TEST_F(OrderListReaderTest, ReadsEveryColumnOfAnOrderInListOrder)
         o.IDUSER = user;
         o.FILTR1 = filter;
     });
-    const OrderListRow row = listed().at(key);
+    const Listed row = listed().at(key);
     EXPECT_EQ(row.texts,
               (QStringList{"00000042", "KLIENT-X", "Spedpol", "Jan Wąs", "ZK/7", "2026-03-09",
                            "Kraków-Łódź-Gdańsk", "00012", "00031", "000007", "EL 12345",
@@ -121,7 +131,7 @@ TEST_F(OrderListReaderTest, AnUndatedOrderWithoutAgreedAmountInvoiceOrCardIsPric
         o.KOSZTRAZEM = 66.05;
         o.ZAMKNIETE = 1;
     });
-    const OrderListRow row = listed().at(key);
+    const Listed row = listed().at(key);
     using Col = OrderListColumns::Column;
     EXPECT_EQ(row.texts[Col::DataZaladunku], "");
     EXPECT_EQ(row.texts[Col::Trasa], "Kraków--Gdańsk");
@@ -142,7 +152,7 @@ TEST_F(OrderListReaderTest, AnAgreedAmountCountsRoundedToAWholeNumber)
         o.KM_LADOWNE = 100;
         o.STAWKA_KMLAD = 2.0;
     });
-    const OrderListRow row = listed().at(key);
+    const Listed row = listed().at(key);
     EXPECT_EQ(row.texts[OrderListColumns::Przychod], amount("1 235,00"));
     EXPECT_DOUBLE_EQ(row.revenue, 1235.0);
 }
@@ -151,9 +161,9 @@ TEST_F(OrderListReaderTest, AStatementWithoutTheRegistersColumnsIsRefusedAtOnce)
 {
     Statement st(db.connection());
     st.add(QStringLiteral("SELECT ID_ZLECENIA_PRZYCH FROM ZLECENIA_PRZYCH"));
-    st.exec();
+    const EngineRows rows(st);
     try {
-        const OrderListReader reader(st);
+        const OrderListReader reader(rows);
         ADD_FAILURE() << "no error";
     } catch (const DbError &error) {
         EXPECT_EQ(error.message(), QStringLiteral("Brak kolumny NUMER w liście zleceń."));
