@@ -43,7 +43,9 @@ public:
     void bindNull(const QString &name, QMetaType type);
 
     // Runs the statement; a SELECT is then positioned on its first row.
-    // Running a non-SELECT again with new values reuses the prepared statement.
+    // Running it again with new values reuses the prepared statement while
+    // the transaction it was prepared in runs; a SELECT outside an explicit
+    // transaction is prepared afresh. A failed run closes the statement.
     void exec();
     // Moves to the next row; false at the end.
     bool next();
@@ -77,6 +79,7 @@ public:
 private:
     void bindValue(const QString &name, const QVariant &value);
     void refreshText() const;
+    bool canReusePrepared(const QString &sql) const;
     int requireColumn(const QString &name) const;
     void fail(const QString &what) const;
 
@@ -90,6 +93,7 @@ private:
     bool m_uniDirectional = false;
     bool m_prepared = false;
     bool m_preparedUniDirectional = false;
+    quint64 m_preparedEpoch = 0;
     QString m_preparedText;
     bool m_active = false;
     bool m_atEnd = true;
