@@ -30,7 +30,9 @@ public:
     QString text() const;
     const QStringList &lines() const { return m_lines; }
 
-    // Reads rows in one forward pass without a scrollable buffer.
+    // Rows are read in one forward pass without a scrollable buffer, as the
+    // reading functions below only go forward; off keeps every row read
+    // in the driver's buffer.
     void setUniDirectional(bool on) { m_uniDirectional = on; }
 
     void bind(const QString &name, int value);
@@ -90,7 +92,7 @@ private:
     mutable bool m_textKnown = false;
     QHash<QString, QVariant> m_bindings;
     QSqlQuery m_query;
-    bool m_uniDirectional = false;
+    bool m_uniDirectional = true;
     bool m_prepared = false;
     bool m_preparedUniDirectional = false;
     quint64 m_preparedEpoch = 0;
