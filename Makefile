@@ -24,6 +24,7 @@ bench: build
 	$(BUILD)/bin/haulix-bench-carriers
 	$(BUILD)/bin/haulix-bench-statements
 	$(BUILD)/bin/haulix-bench-invoicing
+	$(BUILD)/bin/haulix-bench-writes
 
 # haulix_<version>_amd64.deb in the build directory, from the programs built there.
 package: build

@@ -4,6 +4,7 @@
 #include "FirebirdEnvironment.h"
 #include "FirebirdLogin.h"
 #include "FirebirdStatus.h"
+#include "StatementCache.h"
 
 #include <QAtomicInteger>
 #include <QFileInfo>
@@ -81,8 +82,25 @@ void Connection::open(const QString &target, const QString &user, const QString 
     m_target = target;
 }
 
+void Connection::transactionChanged(bool running)
+{
+    m_inTransaction = running;
+    ++m_transactionEpoch;
+}
+
+StatementCache &Connection::statements()
+{
+    if (!m_statements)
+        m_statements = std::make_unique<StatementCache>(*this);
+    return *m_statements;
+}
+
 void Connection::close()
 {
+    // Kept statements go before the database they were prepared on.
+    m_statements.reset();
+    m_inTransaction = false;
+    ++m_transactionEpoch;
     if (QSqlDatabase::contains(m_name)) {
         QSqlDatabase db = QSqlDatabase::database(m_name, false);
         if (db.isOpen())

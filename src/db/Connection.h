@@ -3,6 +3,10 @@
 #include <QSqlDatabase>
 #include <QString>
 
+#include <memory>
+
+class StatementCache;
+
 // The suite's database connection: Qt's QIBASE driver on a Firebird
 // database, always in UTF8. A plain file path opens the file with the
 // embedded engine; "host[/port]:path" goes through a Firebird server.
@@ -29,6 +33,17 @@ public:
 
     static bool isServerTarget(const QString &target);
 
+    // Kept by Transaction: whether an explicit transaction runs, and a count
+    // of its starts and ends, by which a statement kept prepared learns that
+    // the transaction it was prepared in is gone.
+    bool inTransaction() const { return m_inTransaction; }
+    quint64 transactionEpoch() const { return m_transactionEpoch; }
+    void transactionChanged(bool running);
+
+    // Statements run again and again (the table objects' writes), kept
+    // prepared while the connection is open.
+    StatementCache &statements();
+
     // Creates an empty UTF8 database file; throws DbError when the file
     // exists or cannot be written. Never overwrites.
     static void createDatabase(const QString &target,
@@ -51,4 +66,7 @@ public:
 private:
     QString m_name;
     QString m_target;
+    bool m_inTransaction = false;
+    quint64 m_transactionEpoch = 0;
+    std::unique_ptr<StatementCache> m_statements;
 };

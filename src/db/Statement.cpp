@@ -138,13 +138,7 @@ void Statement::openCursor()
         if (!m_bindings.contains(name))
             throw DbError(QStringLiteral("Parametr %1 nie ma wartości: %2").arg(name, sql));
     }
-    // Running the same INSERT, UPDATE or DELETE again reuses the prepared
-    // statement. A SELECT is prepared afresh: the driver keeps a query's
-    // snapshot until the query object goes, and a new run must see rows
-    // committed since.
-    const bool reuse = m_prepared && !m_query.isSelect() && sql == m_preparedText
-        && m_preparedUniDirectional == m_uniDirectional;
-    if (!reuse) {
+    if (!canReusePrepared(sql)) {
         close();
         m_query.setForwardOnly(m_uniDirectional);
         if (!m_query.prepare(sql))
@@ -152,15 +146,38 @@ void Statement::openCursor()
         m_prepared = true;
         m_preparedText = sql;
         m_preparedUniDirectional = m_uniDirectional;
+        m_preparedEpoch = m_connection.transactionEpoch();
     }
     for (auto it = m_bindings.cbegin(); it != m_bindings.cend(); ++it)
         m_query.bindValue(QLatin1Char(':') + it.key(), it.value());
     m_active = false;
     m_columnIndexes.clear();
     m_atEnd = true;
-    if (!m_query.exec())
-        fail(QStringLiteral("Błąd wykonania polecenia"));
+    if (!m_query.exec()) {
+        // Closed at once: the driver leaves the transaction it started for
+        // a failed statement open until the query goes, and a kept
+        // statement would hold it.
+        const DbError error = DbError::fromSql(QStringLiteral("Błąd wykonania polecenia"),
+                                               m_query.lastError(), sql);
+        close();
+        throw error;
+    }
     m_active = true;
+}
+
+bool Statement::canReusePrepared(const QString &sql) const
+{
+    if (!m_prepared || sql != m_preparedText || m_preparedUniDirectional != m_uniDirectional)
+        return false;
+    // The driver ties a prepared statement to the transaction it first ran
+    // in and would run it again in that one after it has ended.
+    if (m_preparedEpoch != m_connection.transactionEpoch())
+        return false;
+    // Outside an explicit transaction a statement that returns rows keeps
+    // the driver's own transaction, and with it its snapshot, until it is
+    // prepared again: a new run must see what was committed since. Inside
+    // one the snapshot is the transaction's anyway.
+    return !m_query.isSelect() || m_connection.inTransaction();
 }
 
 bool Statement::next()

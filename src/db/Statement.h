@@ -30,7 +30,9 @@ public:
     QString text() const;
     const QStringList &lines() const { return m_lines; }
 
-    // Reads rows in one forward pass without a scrollable buffer.
+    // Rows are read in one forward pass without a scrollable buffer, as the
+    // reading functions below only go forward; off keeps every row read
+    // in the driver's buffer.
     void setUniDirectional(bool on) { m_uniDirectional = on; }
 
     void bind(const QString &name, int value);
@@ -43,7 +45,9 @@ public:
     void bindNull(const QString &name, QMetaType type);
 
     // Runs the statement; a SELECT is then positioned on its first row.
-    // Running a non-SELECT again with new values reuses the prepared statement.
+    // Running it again with new values reuses the prepared statement while
+    // the transaction it was prepared in runs; a SELECT outside an explicit
+    // transaction is prepared afresh. A failed run closes the statement.
     void exec();
     // Runs a SELECT without reading its first row: for EngineRows, which
     // then takes the rows from the engine itself.
@@ -82,6 +86,7 @@ public:
 private:
     void bindValue(const QString &name, const QVariant &value);
     void refreshText() const;
+    bool canReusePrepared(const QString &sql) const;
     int requireColumn(const QString &name) const;
     void fail(const QString &what) const;
 
@@ -92,9 +97,10 @@ private:
     mutable bool m_textKnown = false;
     QHash<QString, QVariant> m_bindings;
     QSqlQuery m_query;
-    bool m_uniDirectional = false;
+    bool m_uniDirectional = true;
     bool m_prepared = false;
     bool m_preparedUniDirectional = false;
+    quint64 m_preparedEpoch = 0;
     QString m_preparedText;
     bool m_active = false;
     bool m_atEnd = true;

@@ -17,6 +17,7 @@ void Transaction::StartTransaction()
         throw DbError::fromSql(QStringLiteral("Nie można rozpocząć transakcji"), db.lastError());
     }
     m_active = true;
+    m_connection.transactionChanged(true);
 }
 
 void Transaction::Commit()
@@ -24,7 +25,10 @@ void Transaction::Commit()
     if (!m_active)
         throw DbError(QStringLiteral("Brak rozpoczętej transakcji do zatwierdzenia."));
     QSqlDatabase db = m_connection.database();
-    if (!db.commit())
+    const bool committed = db.commit();
+    // Kept statements prepare again either way.
+    m_connection.transactionChanged(!committed);
+    if (!committed)
         throw DbError::fromSql(QStringLiteral("Nie można zatwierdzić transakcji"), db.lastError());
     m_active = false;
 }
@@ -34,6 +38,7 @@ void Transaction::Rollback()
     if (!m_active)
         return;
     m_active = false;
+    m_connection.transactionChanged(false);
     QSqlDatabase db = m_connection.database();
     if (!db.rollback())
         throw DbError::fromSql(QStringLiteral("Nie można wycofać transakcji"), db.lastError());

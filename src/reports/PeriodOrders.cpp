@@ -21,27 +21,38 @@ QString routeText(const QString &from, const QString &via, const QString &to)
 std::vector<PeriodOrder> PeriodOrders::read(Connection &connection) const
 {
     Statement st(connection);
-    st.add(QStringLiteral("SELECT ID_ZLECENIA_PRZYCH, NUMER, DATA, IDKONTRAHENT, KONTRAHENT, "));
-    st.add(QStringLiteral("IDPRZEWOZNIK, PRZEWOZNIK, IDUSER, OPERATOR, MIASTOOD, MIASTOVIA, "));
-    st.add(QStringLiteral("MIASTODO, KWOTA, KM_LADOWNE, STAWKA_KMLAD, KM_PUSTE, STAWKA_KMPUSTY, "));
-    st.add(QStringLiteral("ILOSC_GODZIN, STAWKA_GODZINY, PALETYILOSC, STAWKA_PALETY, "));
-    st.add(QStringLiteral("KOSZTRAZEM, "));
-    st.add(QStringLiteral("NUMER_OBCA_FAK, KWOTA_OBCA_FAKT FROM VZLECENIA_PRZYCH "));
-    st.add(QStringLiteral("WHERE DATA BETWEEN :aOd AND :aDo "));
+    // The register's view joins eight tables; a statement needs six of them,
+    // and at a year of a large company every join left out counts. The
+    // columns keep the view's names.
+    st.add(QStringLiteral("SELECT z.ID_ZLECENIA_PRZYCH, z.NUMER, z.DATA, "));
+    st.add(QStringLiteral("z.IDKONTRAHENTA AS IDKONTRAHENT, k.SKROT AS KONTRAHENT, "));
+    st.add(QStringLiteral("z.IDPRZEWOZNIK, p.SKROT AS PRZEWOZNIK, z.IDUSER, u.LOGIN AS OPERATOR, "));
+    st.add(QStringLiteral("mo.NAZWA AS MIASTOOD, mv.NAZWA AS MIASTOVIA, md.NAZWA AS MIASTODO, "));
+    st.add(QStringLiteral("z.KWOTA, z.KM_LADOWNE, z.STAWKA_KMLAD, z.KM_PUSTE, z.STAWKA_KMPUSTY, "));
+    st.add(QStringLiteral("z.ILOSC_GODZIN, z.STAWKA_GODZINY, z.PALETYILOSC, z.STAWKA_PALETY, "));
+    st.add(QStringLiteral("z.KOSZTRAZEM, z.NUMER_FAKT_PRZEW AS NUMER_OBCA_FAK, "));
+    st.add(QStringLiteral("z.KWOTA_FAKT_PRZEW AS KWOTA_OBCA_FAKT FROM ZLECENIA_PRZYCH z "));
+    st.add(QStringLiteral("LEFT JOIN KONTRAHENCI k ON k.ID_KONTRAHENTA = z.IDKONTRAHENTA "));
+    st.add(QStringLiteral("LEFT JOIN KONTRAHENCI p ON p.ID_KONTRAHENTA = z.IDPRZEWOZNIK "));
+    st.add(QStringLiteral("LEFT JOIN MIASTA mo ON mo.ID_MIASTA = z.IDMIASTO_OD "));
+    st.add(QStringLiteral("LEFT JOIN MIASTA mv ON mv.ID_MIASTA = z.IDMIASTO_VIA "));
+    st.add(QStringLiteral("LEFT JOIN MIASTA md ON md.ID_MIASTA = z.IDMIASTO_DO "));
+    st.add(QStringLiteral("LEFT JOIN USERS u ON u.ID_USER = z.IDUSER "));
+    st.add(QStringLiteral("WHERE z.DATA BETWEEN :aOd AND :aDo "));
     switch (party) {
     case Client:
-        st.add(QStringLiteral("AND IDKONTRAHENT = :aKlucz "));
+        st.add(QStringLiteral("AND z.IDKONTRAHENTA = :aKlucz "));
         break;
     case Carrier:
-        st.add(QStringLiteral("AND IDPRZEWOZNIK = :aKlucz "));
+        st.add(QStringLiteral("AND z.IDPRZEWOZNIK = :aKlucz "));
         break;
     case User:
-        st.add(QStringLiteral("AND IDUSER = :aKlucz "));
+        st.add(QStringLiteral("AND z.IDUSER = :aKlucz "));
         break;
     case Anyone:
         break;
     }
-    st.add(QStringLiteral("ORDER BY DATA, NUMER, ID_ZLECENIA_PRZYCH"));
+    st.add(QStringLiteral("ORDER BY z.DATA, z.NUMER, z.ID_ZLECENIA_PRZYCH"));
     st.bind(QStringLiteral("aOd"), period.start());
     st.bind(QStringLiteral("aDo"), period.end());
     if (party != Anyone)

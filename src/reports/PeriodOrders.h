@@ -9,8 +9,8 @@
 
 class Connection;
 
-// An order of a statement's period as the register lists it (the view
-// VZLECENIA_PRZYCH), with the register's revenue.
+// An order of a statement's period as the register lists it (the columns
+// of the view VZLECENIA_PRZYCH), with the register's revenue.
 struct PeriodOrder
 {
     int key = 0;

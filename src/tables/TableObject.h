@@ -3,6 +3,7 @@
 #include "Connection.h"
 #include "DbError.h"
 #include "Statement.h"
+#include "StatementCache.h"
 #include "TCompareOp.h"
 #include "TableDescription.h"
 #include "TableStatements.h"
@@ -23,7 +24,10 @@
 //   static constexpr bool HasSelectOne;
 //   static constexpr MaxIdKind MaxId;       GetMaxId absent, guarded or not
 //   static const TableDescription<T> &description();
-//   bool UniDirectional;                    optional: read lists forward-only
+//   bool UniDirectional;                    optional, see uniDirectional()
+//
+// Inserts, updates and deletes take their statement from the connection's
+// kept statements: a loop of them prepares its text once.
 //
 // Operations a class does not have do not compile for it. The guarded step
 // of each operation catches every failure, shows the table's message, logs
@@ -48,16 +52,22 @@ public:
     bool Insert()
     {
         const auto &d = Derived::description();
-        Statement st(*m_connection);
-        for (const QString &line : TableStatements::insertLines(d.info.table, d.columnNames()))
-            st.add(line);
-        st.add(TableStatements::returningLine(d.info.key));
+        static const QStringList lines = [&d] {
+            QStringList text = TableStatements::insertLines(d.info.table, d.columnNames());
+            text << TableStatements::returningLine(d.info.key);
+            return text;
+        }();
+        Statement &st = m_connection->statements().statement(lines);
         bindColumns(st);
         Derived &record = static_cast<Derived &>(*this);
         record.*(d.keyField) = 0;
         return guarded(TableStatements::Operation::Insert, [&] {
             st.exec();
             record.*(d.keyField) = st.integer(0);
+            // Outside an explicit transaction the driver commits a statement
+            // that hands back a row only when the statement is let go.
+            if (!m_connection->inTransaction())
+                st.close();
         });
     }
 
@@ -65,9 +75,9 @@ public:
     bool Update()
     {
         const auto &d = Derived::description();
-        Statement st(*m_connection);
-        for (const QString &line : TableStatements::updateLines(d.info.table, d.columnNames(), d.info.key))
-            st.add(line);
+        static const QStringList lines
+            = TableStatements::updateLines(d.info.table, d.columnNames(), d.info.key);
+        Statement &st = m_connection->statements().statement(lines);
         bindKey(st);
         bindColumns(st);
         return guarded(TableStatements::Operation::Update, [&] { st.exec(); });
@@ -77,8 +87,8 @@ public:
     bool Delete()
     {
         const auto &d = Derived::description();
-        Statement st(*m_connection);
-        st.add(TableStatements::deleteLine(d.info.table, d.info.key));
+        static const QStringList lines{TableStatements::deleteLine(d.info.table, d.info.key)};
+        Statement &st = m_connection->statements().statement(lines);
         bindKey(st);
         return guarded(TableStatements::Operation::Delete, [&] { st.exec(); });
     }
@@ -219,13 +229,10 @@ private:
 
     const Derived &self() const { return static_cast<const Derived &>(*this); }
 
-    bool uniDirectional() const
-    {
-        if constexpr (requires { self().UniDirectional; })
-            return self().UniDirectional;
-        else
-            return false;
-    }
+    // Every select reads its rows once, front to back, into records, so
+    // each reads forward-only, without a scrollable buffer, whether or not
+    // the caller set UniDirectional.
+    static constexpr bool uniDirectional() { return true; }
 
     template <class Step>
     bool guarded(TableStatements::Operation operation, Step &&step) const
@@ -273,12 +280,8 @@ private:
             return;
         }
         std::vector<QMetaType> types;
-        for (const Condition &condition : conditions) {
-            Statement probe(*m_connection);
-            probe.add(TableStatements::probeLine(table, condition.field));
-            probe.exec();
-            types.push_back(probe.columnType(0));
-        }
+        for (const Condition &condition : conditions)
+            types.push_back(columnType(condition.field));
         st.add(TableStatements::selectWhereLine(table));
         for (std::size_t i = 0; i < conditions.size(); ++i) {
             if (i > 0)
@@ -288,6 +291,25 @@ private:
         }
         for (std::size_t i = 0; i < conditions.size(); ++i)
             TableStatements::bindByColumnType(st, conditions[i].parameter, types[i], conditions[i].value);
+    }
+
+    // The type a comparison value of the column is bound as, from the
+    // table's column list. Only a name outside it (an expression, a column
+    // the record does not keep) is asked of the database.
+    QMetaType columnType(const QString &field) const
+    {
+        const auto &d = Derived::description();
+        const QString name = field.trimmed();
+        if (name.compare(d.info.key, Qt::CaseInsensitive) == 0)
+            return QMetaType::fromType<int>();
+        for (const Column<Derived> &column : d.columns) {
+            if (column.name.compare(name, Qt::CaseInsensitive) == 0)
+                return TableStatements::metaTypeOf(column.type());
+        }
+        Statement probe(*m_connection);
+        probe.add(TableStatements::probeLine(d.info.table, field));
+        probe.exec();
+        return probe.columnType(0);
     }
 
     std::vector<int> columnIndexes(const Statement &st) const

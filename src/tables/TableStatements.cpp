@@ -111,6 +111,17 @@ QString maxIdLine(const QString &table, const QString &key)
     return QStringLiteral("SELECT MAX(") + key + QStringLiteral(") FROM ") + table;
 }
 
+QMetaType metaTypeOf(ColumnType type)
+{
+    switch (type) {
+    case ColumnType::Integer: return QMetaType::fromType<int>();
+    case ColumnType::Text: return QMetaType::fromType<QString>();
+    case ColumnType::Float: return QMetaType::fromType<double>();
+    case ColumnType::Date: return QMetaType::fromType<QDateTime>();
+    }
+    return QMetaType();
+}
+
 bool bindByColumnType(Statement &statement, const QString &parameter, QMetaType columnType,
                       const QVariant &value)
 {

@@ -28,6 +28,10 @@ QString compareLine(TCompareOp op, const QString &parameter);
 QString selectDistinctLine(const QString &table, const QString &field);
 QString maxIdLine(const QString &table, const QString &key);
 
+// How a value compared with a column of the type is bound: as the driver
+// reads such a column.
+QMetaType metaTypeOf(ColumnType type);
+
 // Binds a free comparison value by the type of the column it is compared
 // with; returns false (leaving it unbound) for a type the table objects
 // cannot bind, so the statement fails when it runs.

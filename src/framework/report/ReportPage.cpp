@@ -62,8 +62,8 @@ struct ItemLine
         return QStringLiteral("text ") + rect(item.rectMm) + QLatin1Char(' ')
             + alignmentName(item.alignment)
             + (item.wordWrap ? QStringLiteral(" wrap ") : QStringLiteral(" "))
-            + quoted(item.font.family) + QLatin1Char(' ') + QString::number(item.font.pointSize)
-            + QLatin1Char(' ') + styleName(item.font) + QLatin1Char(' ') + quoted(item.text);
+            + quoted(item.font->family) + QLatin1Char(' ') + QString::number(item.font->pointSize)
+            + QLatin1Char(' ') + styleName(*item.font) + QLatin1Char(' ') + quoted(item.text);
     }
     QString operator()(const ReportLineItem &item) const
     {

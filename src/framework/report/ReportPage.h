@@ -15,12 +15,14 @@
 class QPainter;
 
 // The primitives a pre-rendered page is made of. All positions are in
-// millimetres from the top left corner of the sheet.
+// millimetres from the top left corner of the sheet. A year's statement
+// places millions of them, so texts in one font share that font, and a
+// label printing the same text as in its previous band shares that text.
 struct ReportTextItem
 {
     QRectF rectMm;
     QString text;
-    ReportFont font;
+    std::shared_ptr<const ReportFont> font;
     Qt::Alignment alignment = Qt::AlignLeft | Qt::AlignVCenter;
     bool wordWrap = false;
 };

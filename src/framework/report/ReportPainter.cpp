@@ -31,13 +31,18 @@ struct ItemPainter
 {
     QPainter &painter;
     double dotsPerMm;
+    // Setting the painter's font is dear; texts in a row mostly share one.
+    mutable const ReportFont *currentFont = nullptr;
 
     void operator()(const ReportTextItem &item) const
     {
         if (item.text.isEmpty())
             return;
         painter.setPen(Qt::black);
-        painter.setFont(item.font.toQFont());
+        if (!currentFont || !(*currentFont == *item.font)) {
+            painter.setFont(item.font->toQFont());
+            currentFont = item.font.get();
+        }
         const int flags = static_cast<int>(item.alignment) | (item.wordWrap ? Qt::TextWordWrap : 0);
         painter.drawText(scaled(item.rectMm, dotsPerMm), flags, item.text);
     }
@@ -57,6 +62,7 @@ struct ItemPainter
         painter.save();
         item.drawing->paint(painter, scaled(item.rectMm, dotsPerMm));
         painter.restore();
+        currentFont = nullptr;
     }
 };
 

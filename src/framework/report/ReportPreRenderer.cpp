@@ -40,15 +40,34 @@ ReportPreRenderer::ReportPreRenderer(Report &report) : m_report(report)
 {
 }
 
-double ReportPreRenderer::textHeight(const ReportFont &font, double widthMm, bool wordWrap,
-                                     const QString &text)
+namespace {
+
+double heightIn(const QFontMetricsF &metrics, double widthMm, bool wordWrap, const QString &text)
 {
-    const QFontMetricsF metrics(font.toQFont(), &measuringDevice());
     const double pxPerMm = measuringDpi / mmPerInch;
     const int flags = wordWrap ? Qt::TextWordWrap : 0;
     const QRectF bounds = metrics.boundingRect(QRectF(0, 0, widthMm * pxPerMm, 1.0e7), flags,
                                                text.isEmpty() ? QStringLiteral(" ") : text);
     return bounds.height() / pxPerMm;
+}
+
+} // namespace
+
+double ReportPreRenderer::textHeight(const ReportFont &font, double widthMm, bool wordWrap,
+                                     const QString &text)
+{
+    return heightIn(QFontMetricsF(font.toQFont(), &measuringDevice()), widthMm, wordWrap, text);
+}
+
+const ReportPreRenderer::FontInUse &ReportPreRenderer::fontInUse(const ReportFont &font)
+{
+    for (const FontInUse &used : m_fonts) {
+        if (*used.font == font)
+            return used;
+    }
+    m_fonts.push_back({std::make_shared<const ReportFont>(font),
+                       QFontMetricsF(font.toQFont(), &measuringDevice())});
+    return m_fonts.back();
 }
 
 std::vector<ReportPage> ReportPreRenderer::run()
@@ -212,15 +231,27 @@ void ReportPreRenderer::printBodyBand(ReportBand &band, bool takesRow)
     m_bodyStarted = true;
 }
 
-QStringList ReportPreRenderer::resolveTexts(const ReportBand &band) const
+QStringList ReportPreRenderer::resolveTexts(const ReportBand &band)
 {
     QStringList texts;
-    for (const ReportLabel &label : band.labels())
-        texts << (label.isVisible() && !label.pageText() ? label.currentText() : QString());
+    texts.reserve(qsizetype(band.labels().size()));
+    for (const ReportLabel &label : band.labels()) {
+        if (!label.isVisible() || label.pageText()) {
+            texts << QString();
+            continue;
+        }
+        QString text = label.currentText();
+        QString &last = m_lastTexts[&label];
+        if (text == last)
+            text = last;
+        else
+            last = text;
+        texts << text;
+    }
     return texts;
 }
 
-double ReportPreRenderer::bandHeight(const ReportBand &band, const QStringList &texts) const
+double ReportPreRenderer::bandHeight(const ReportBand &band, const QStringList &texts)
 {
     double height = band.height();
     qsizetype index = 0;
@@ -229,7 +260,7 @@ double ReportPreRenderer::bandHeight(const ReportBand &band, const QStringList &
         if (!label.isVisible() || !label.stretch())
             continue;
         const QRectF &box = label.geometry();
-        const double needed = textHeight(label.font(), box.width(), label.wordWrap(), text)
+        const double needed = heightIn(fontInUse(label.font()).metrics, box.width(), label.wordWrap(), text)
             + label.bottomMargin();
         height = qMax(height, box.top() + qMax(box.height(), needed));
     }
@@ -251,7 +282,7 @@ void ReportPreRenderer::place(const ReportBand &band, const QStringList &texts, 
         if (label.pageText())
             m_pendingPageTexts.push_back({m_pages.size() - 1, items.size(), label.pageText()});
         items.push_back(
-            ReportTextItem{box, text, label.font(), label.alignment(), label.wordWrap()});
+            ReportTextItem{box, text, fontInUse(label.font()).font, label.alignment(), label.wordWrap()});
         const Qt::Edges frame = label.frame();
         const double width = label.frameWidth();
         if (frame & Qt::TopEdge)

@@ -3,9 +3,12 @@
 #include "ReportLabel.h"
 #include "ReportPage.h"
 
+#include <QFontMetricsF>
+#include <QHash>
 #include <QStringList>
 #include <QVariantList>
 
+#include <memory>
 #include <vector>
 
 class Report;
@@ -47,15 +50,27 @@ private:
     void resetSumsOf(size_t level);
     QVariantList groupKeys() const;
 
-    QStringList resolveTexts(const ReportBand &band) const;
-    double bandHeight(const ReportBand &band, const QStringList &texts) const;
+    QStringList resolveTexts(const ReportBand &band);
+    double bandHeight(const ReportBand &band, const QStringList &texts);
     void place(const ReportBand &band, const QStringList &texts, double height);
     void resolvePageTexts();
     ReportPage &page() { return m_pages.back(); }
 
+    // A font of the report, shared by every text placed in it, with its
+    // metrics for measuring.
+    struct FontInUse
+    {
+        std::shared_ptr<const ReportFont> font;
+        QFontMetricsF metrics;
+    };
+    const FontInUse &fontInUse(const ReportFont &font);
+
     Report &m_report;
     std::vector<ReportPage> m_pages;
     std::vector<PendingPageText> m_pendingPageTexts;
+    std::vector<FontInUse> m_fonts;
+    // What each label printed last, to share its text when it repeats.
+    QHash<const ReportLabel *, QString> m_lastTexts;
     double m_y = 0.0;
     double m_bodyBottom = 0.0;
     bool m_bodyStarted = false;

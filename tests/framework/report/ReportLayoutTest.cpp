@@ -171,8 +171,8 @@ TEST(ReportLayout, BeforePrintCanHideRowsWhichThenCountInNoSum)
               QStringList{money(100 + 100.5 + 100.75)});
     const auto items = textItems(pages[0], QStringLiteral("FV/1/3"));
     ASSERT_EQ(items.size(), 1u);
-    EXPECT_TRUE(items[0]->font.bold);
-    EXPECT_EQ(items[0]->font.pointSize, 9);
+    EXPECT_TRUE(items[0]->font->bold);
+    EXPECT_EQ(items[0]->font->pointSize, 9);
 }
 
 TEST(ReportLayout, BeforePrintChangesTextsOfFixedBands)

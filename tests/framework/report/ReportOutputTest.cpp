@@ -10,6 +10,8 @@
 #include <QFileInfo>
 #include <QPrintPreviewDialog>
 #include <QPrintPreviewWidget>
+#include <QProcess>
+#include <QRegularExpression>
 #include <QTemporaryDir>
 #include <QTimer>
 
@@ -119,4 +121,26 @@ TEST(ReportOutput, PreviewWindowShowsEveryPage)
     EXPECT_TRUE(output.preview(sample.report()));
     EXPECT_EQ(windowTitle, QStringLiteral("Podgląd wydruku"));
     EXPECT_EQ(shownPages, 3);
+}
+
+TEST(ReportOutput, TextsKeepTheirOwnFaceWhenFontsAlternateRowByRow)
+{
+    QTemporaryDir dir;
+    CarrierInvoicesReport sample(sampleInvoices(1, 6));
+    int row = 0;
+    sample.report().band(QStringLiteral("QRBandDetail")).setBeforePrint([&row](ReportBand &band,
+                                                                              bool &) {
+        band.label(QStringLiteral("qrNumer")).setFont(ReportFont::sized(8, ++row % 2 == 0));
+    });
+    const QString path = dir.filePath(QStringLiteral("kroje.pdf"));
+    ASSERT_TRUE(sample.report().exportPdf(path));
+    QProcess fonts;
+    fonts.start(QStringLiteral("pdffonts"), {path});
+    ASSERT_TRUE(fonts.waitForFinished());
+    const QStringList faces = QString::fromUtf8(fonts.readAllStandardOutput())
+                                  .split(QLatin1Char('\n'))
+                                  .mid(2)
+                                  .filter(QRegularExpression(QStringLiteral("\\S")));
+    EXPECT_EQ(faces.filter(QStringLiteral("Bold")).size(), 1) << faces.join('\n').toStdString();
+    EXPECT_GE(faces.size(), 2) << faces.join('\n').toStdString();
 }
