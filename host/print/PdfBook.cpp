@@ -19,8 +19,8 @@ constexpr int Resolution = 600;
 void PdfBook::add(Report &report)
 {
     // The title is the report's own once its data has been read.
-    std::vector<ReportPage> pages = report.prepare();
-    m_sections.push_back({report.title(), report.pageSetup(), std::move(pages)});
+    report.prepare();
+    m_sections.push_back({report.title(), report.pageSetup(), report.takePages()});
 }
 
 int PdfBook::pageCount() const

@@ -12,6 +12,7 @@
 
 #include <functional>
 #include <memory>
+#include <utility>
 #include <vector>
 
 class Statement;
@@ -77,6 +78,9 @@ public:
     // The same, but a failure is shown to the user and answered with false.
     bool prepareShowingErrors();
     const std::vector<ReportPage> &pages() const { return m_pages; }
+    // Hands the laid-out pages over to a caller that keeps them longer than
+    // the report; a long report is not held twice.
+    std::vector<ReportPage> takePages() { return std::exchange(m_pages, {}); }
     // The page being laid out, for before-print callbacks.
     int pageNumber() const { return m_pageNumber; }
 
