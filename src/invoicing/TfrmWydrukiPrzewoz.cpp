@@ -1,6 +1,7 @@
 #include "TfrmWydrukiPrzewoz.h"
 
 #include "MessageService.h"
+#include "PeriodProblem.h"
 #include "ReportFailures.h"
 #include "SessionContext.h"
 #include "TBitBtn.h"
@@ -131,12 +132,7 @@ bool TfrmWydrukiPrzewoz::complete()
                       CBKontrahenci);
     if (m_mode == CarrierInvoiceList::Unpaid)
         return true;
-    for (TDateEdit *date : {deOd, deDo}) {
-        date->interpretText();
-        if (!date->hasAcceptableInput() || date->isEmpty())
-            return refuse(QStringLiteral("Podaj datę w postaci rrrr-mm-dd."), date);
-    }
-    if (deOd->date() > deDo->date())
-        return refuse(QStringLiteral("Data od : nie może być późniejsza niż Data do :."), deOd);
-    return true;
+    const std::optional<PeriodProblem> problem = PeriodProblem::of(
+        deOd, deDo, QStringLiteral("Data od : nie może być późniejsza niż Data do :."));
+    return problem ? refuse(problem->text, problem->field) : true;
 }

@@ -1,6 +1,7 @@
 #include "TfrmStatementChoice.h"
 
 #include "MessageService.h"
+#include "PeriodProblem.h"
 #include "ReportFailures.h"
 #include "SessionContext.h"
 #include "TBitBtn.h"
@@ -105,12 +106,7 @@ bool TfrmStatementChoice::complete()
     };
     if (!cbWszyscy->isChecked() && cbWybor->currentIndex() < 0)
         return refuse(QStringLiteral("Wybierz z listy albo zaznacz „Wszyscy”."), cbWybor);
-    for (TDateEdit *date : {deOd, deDo}) {
-        date->interpretText();
-        if (!date->hasAcceptableInput() || date->isEmpty())
-            return refuse(QStringLiteral("Podaj datę w postaci rrrr-mm-dd."), date);
-    }
-    if (deOd->date() > deDo->date())
-        return refuse(QStringLiteral("Data od : nie może być późniejsza niż Data do :."), deOd);
-    return true;
+    const std::optional<PeriodProblem> problem = PeriodProblem::of(
+        deOd, deDo, QStringLiteral("Data od : nie może być późniejsza niż Data do :."));
+    return problem ? refuse(problem->text, problem->field) : true;
 }

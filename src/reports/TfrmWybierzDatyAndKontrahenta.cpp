@@ -1,6 +1,7 @@
 #include "TfrmWybierzDatyAndKontrahenta.h"
 
 #include "MessageService.h"
+#include "PeriodProblem.h"
 #include "TBitBtn.h"
 #include "TDateEdit.h"
 
@@ -99,14 +100,9 @@ bool TfrmWybierzDatyAndKontrahenta::complete()
         field->setFocus();
         return false;
     };
-    for (TDateEdit *date : {deOd, deDo}) {
-        date->interpretText();
-        if (!date->hasAcceptableInput() || date->isEmpty())
-            return refuse(QStringLiteral("Podaj datę w postaci rrrr-mm-dd."), date);
-    }
-    if (deOd->date() > deDo->date())
-        return refuse(QStringLiteral("Okres kończy się przed swoim początkiem: "
-                                     "popraw daty „od dnia” i „do dnia”."),
-                      deOd);
-    return true;
+    const std::optional<PeriodProblem> problem = PeriodProblem::of(
+        deOd, deDo,
+        QStringLiteral("Okres kończy się przed swoim początkiem: "
+                       "popraw daty „od dnia” i „do dnia”."));
+    return problem ? refuse(problem->text, problem->field) : true;
 }
