@@ -6,7 +6,6 @@
 // forward-only, nothing done with the rows. Their number.
 inline int rawRows(Statement &st)
 {
-    st.setUniDirectional(true);
     st.exec();
     int rows = 0;
     for (; !st.atEnd(); st.next())

@@ -114,7 +114,6 @@ Spread spread(std::vector<double> values)
 int driverFetch(Connection &connection, const OrderListFilter &filter)
 {
     Statement st(connection);
-    st.setUniDirectional(true);
     OrderListQuery::prepare(st, filter);
     st.exec();
     int rows = 0;

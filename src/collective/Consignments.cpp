@@ -81,7 +81,6 @@ std::vector<Column> columns(bool withCity)
 std::vector<Row> onVehicle(Connection &connection, int collectiveKey)
 {
     Statement st(connection);
-    st.setUniDirectional(true);
     st.add(QStringLiteral("SELECT * FROM VZLECENIA_PRZYCH WHERE IDZLECENIAZBIOR=:aIDZlecZbior"));
     st.bind(QStringLiteral("aIDZlecZbior"), collectiveKey);
     return rowsOf(st, false);
@@ -90,7 +89,6 @@ std::vector<Row> onVehicle(Connection &connection, int collectiveKey)
 std::vector<Row> unassigned(Connection &connection, const QDate &from, const QDate &to)
 {
     Statement st(connection);
-    st.setUniDirectional(true);
     st.add(QStringLiteral("SELECT * FROM VZLECENIA_PRZYCH WHERE DATA BETWEEN :aDataOd AND "
                           ":aDataDo AND (IDZLECENIAZBIOR = 0 or IDZLECENIAZBIOR is NULL)"));
     st.bind(QStringLiteral("aDataOd"), DateTime::fromDate(from));

@@ -13,7 +13,6 @@ namespace BatchInvoicing {
 std::vector<int> ordersToInvoice(Connection &connection, const Options &options)
 {
     Statement st(connection);
-    st.setUniDirectional(true);
     st.add(QStringLiteral("SELECT ID_ZLECENIA_PRZYCH FROM ZLECENIA_PRZYCH"));
     st.add(QStringLiteral("WHERE IDKONTRAHENTA=:aIDKONTRAHENTA"));
     st.add(QStringLiteral("AND DATA >= :aOd AND DATA < :aPo"));

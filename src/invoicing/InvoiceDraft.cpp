@@ -32,7 +32,6 @@ std::map<int, OrderFigures> figuresOf(Connection &connection, const std::vector<
         for (std::size_t i = first; i < std::min(keys.size(), first + Slice); ++i)
             slice << QString::number(keys[i]);
         Statement st(connection);
-        st.setUniDirectional(true);
         st.add(QStringLiteral("SELECT ID_ZLECENIA_PRZYCH, DOSTARCZENIE, STAWKA_RAZEM, KWOTA, "
                               "IDPRZEWOZNIK FROM ZLECENIA_PRZYCH"));
         st.add(QStringLiteral("WHERE ID_ZLECENIA_PRZYCH IN (") + slice.join(u',') + u')');

@@ -37,7 +37,6 @@ const std::vector<Column> &columns()
 std::vector<Row> read(Connection &connection, const QDate &from, const QDate &to, int client)
 {
     Statement st(connection);
-    st.setUniDirectional(true);
     st.add(QStringLiteral("SELECT * FROM VZLECENIA_PRZYCH WHERE DATA BETWEEN :aDataOD AND "
                           ":aDataDo AND ((idfaktury is null) or idfaktury=0)"));
     if (client > 0) {

@@ -6,7 +6,6 @@
 std::vector<PriceCell> PriceCells::ofGroup(Connection &connection, int group)
 {
     Statement st(connection);
-    st.setUniDirectional(true);
     st.add(QStringLiteral("select * from CENNIKI_KRAJ WHERE GRUPA=") + QString::number(group));
     st.exec();
     const int kilometres = st.columnIndex(QStringLiteral("KILOMETRY"));

@@ -15,7 +15,6 @@ PriceGroup fromRecord(const TCenniki_kraj_grupyObj &record)
 std::vector<PriceGroup> PriceGroups::list(Connection &connection)
 {
     Statement st(connection);
-    st.setUniDirectional(true);
     st.add(QStringLiteral("Select * from CENNIKI_KRAJ_GRUPY order by NAZWA"));
     st.exec();
     const int key = st.columnIndex(QStringLiteral("ID_CENNIKI_KRAJ_GRUPY"));

@@ -105,7 +105,6 @@ std::vector<PriceRange> PriceRanges::list(Connection &connection, RangeAxis axis
 {
     const bool rows = axis == RangeAxis::Kilometres;
     Statement st(connection);
-    st.setUniDirectional(true);
     st.add(listing);
     st.exec();
     const int key = st.columnIndex(rows ? QStringLiteral("ID_CENNIKI_KRAJ_WIERSZE")

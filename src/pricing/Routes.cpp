@@ -5,7 +5,6 @@
 std::vector<RouteRow> Routes::startingIn(Connection &connection, int cityKey)
 {
     Statement st(connection);
-    st.setUniDirectional(true);
     st.add(QStringLiteral("select odleglosc,idmiastaod,idmiastado,ID_ODLEGLOSCI,"));
     st.add(QStringLiteral("(select nazwa from miasta where o.idmiastaod=id_miasta) as  miastood,"));
     st.add(QStringLiteral("(select nazwa from miasta where o.idmiastado=id_miasta) as  miastodo,"));

@@ -67,7 +67,6 @@ void TfrmCennikiKontrahenci::LoadLVData()
     if (Connection *database = session().Database) {
         reportFailures(QStringLiteral("Nie można odczytać kontrahentów"), [&] {
             Statement st(*database);
-            st.setUniDirectional(true);
             st.add(clientsOf(selectedPriceList(cbCennik)));
             st.exec();
             const int key = st.columnIndex(QStringLiteral("ID_KONTRAHENTA"));

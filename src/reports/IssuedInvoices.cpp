@@ -44,7 +44,6 @@ void IssuedInvoices::bindPeriod(Statement &statement) const
 int IssuedInvoices::read()
 {
     Statement st(m_connection);
-    st.setUniDirectional(true);
     prepare(st, Configuration(&m_connection).GetConfigInt(QStringLiteral("IDWłaściciela")));
     st.exec();
     const int key = st.columnIndex(QStringLiteral("ID_FAKTURY"));
@@ -94,7 +93,6 @@ void IssuedInvoices::readLines()
     // All lines of the period's invoices at once: a statement per invoice
     // would cost more than the whole statement is allowed to take.
     Statement st(m_connection);
-    st.setUniDirectional(true);
     st.add(QStringLiteral("SELECT p.ID_FAKTURY, p.ILOSC, p.CENA_NETTO, p.ID_VAT, p.RODZAJ_USLUGI"));
     st.add(QStringLiteral("FROM FAKTURY f JOIN FAKTURY_POZYCJE p ON p.ID_FAKTURY = f.ID_FAKTURY"));
     st.add(QStringLiteral("WHERE f.ID_RODZAJ_DOK = 1 AND f.DATA_WYSTAWIENIA >= :aOd "
@@ -110,7 +108,6 @@ void IssuedInvoices::readLines()
 void IssuedInvoices::readVehicles()
 {
     Statement st(m_connection);
-    st.setUniDirectional(true);
     st.add(QStringLiteral("SELECT z.IDFAKTURY, z.POJAZD"));
     st.add(QStringLiteral("FROM FAKTURY f JOIN ZLECENIA_PRZYCH z ON z.IDFAKTURY = f.ID_FAKTURY"));
     st.add(QStringLiteral("WHERE f.ID_RODZAJ_DOK = 1 AND f.DATA_WYSTAWIENIA >= :aOd "

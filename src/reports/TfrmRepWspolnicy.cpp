@@ -81,7 +81,6 @@ bool TfrmRepWspolnicy::FormCreate(QWidget *owner)
 void TfrmRepWspolnicy::select(const PartnersSelection &selection)
 {
     selection.prepare(Table1, PartnersSelection::ownShortName(m_connection));
-    Table1.setUniDirectional(true);
     m_title = selection.title();
     m_confirmed = 1;
 }

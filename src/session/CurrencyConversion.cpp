@@ -13,7 +13,6 @@ using CurrencyConversion::Rate;
 void findTableForDate(Connection &connection, Rate &found)
 {
     Statement st(connection);
-    st.setUniDirectional(true);
     st.add(QStringLiteral("Select * from numery_tabel_kursow "
                           "where Z_DNIA<=:aZ_DNIA order by Z_DNIA"));
     st.bind(QStringLiteral("aZ_DNIA"), found.date);

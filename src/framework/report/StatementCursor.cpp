@@ -5,7 +5,6 @@
 
 bool StatementCursor::first()
 {
-    m_statement.setUniDirectional(true);
     m_statement.exec();
     return !m_statement.atEnd();
 }

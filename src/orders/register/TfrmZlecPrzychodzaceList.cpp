@@ -41,7 +41,6 @@ void TfrmZlecPrzychodzace::LoadLVData()
         if (!database)
             return;
         Statement st(*database);
-        st.setUniDirectional(true);
         OrderListQuery::prepare(st, filter());
         // The list of a large company runs to many thousands of rows: they
         // come straight from the engine, their texts built in one buffer.
