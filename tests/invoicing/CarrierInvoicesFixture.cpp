@@ -33,5 +33,5 @@ int CarrierInvoicesFixture::addInvoice(const Invoice &invoice)
     order.NRRAMPY = invoice.paid ? 1 : 0;
     order.ZAPLACONA_KWOTA = invoice.paidAmount;
     EXPECT_TRUE(order.Insert());
-    return order.GetMaxId();
+    return order.ID_ZLECENIA_PRZYCH;
 }

@@ -82,7 +82,7 @@ int InvoicingFixture::addInvoice(const std::function<void(TFakturyObj &)> &chang
     if (change)
         change(invoice);
     EXPECT_TRUE(invoice.Insert());
-    return invoice.GetMaxId();
+    return invoice.ID_FAKTURY;
 }
 
 void InvoicingFixture::addPosition(int invoiceKey, const QString &text, double quantity,
@@ -111,7 +111,7 @@ int InvoicingFixture::addOrder(const std::function<void(TZlecenia_przychObj &)> 
     if (change)
         change(order);
     EXPECT_TRUE(order.Insert());
-    return order.GetMaxId();
+    return order.ID_ZLECENIA_PRZYCH;
 }
 
 void InvoicingFixture::addGoods(int orderKey, const QString &name, double quantity, int unit)

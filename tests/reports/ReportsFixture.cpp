@@ -90,7 +90,7 @@ int ReportsFixture::addOrder(const Order &order)
     record.IDMIASTO_DO = order.abroad ? berlin : krakow;
     record.FILTR1 = order.partner;
     EXPECT_TRUE(record.Insert());
-    return record.GetMaxId();
+    return record.ID_ZLECENIA_PRZYCH;
 }
 
 PartnersSelection ReportsFixture::partnersOfMarch()
@@ -125,7 +125,7 @@ int ReportsFixture::addStatementOrder(const StatementOrder &order)
     o.NRRAMPY = order.carrierPaid ? 1 : 0;
     o.ZAPLACONA_KWOTA = order.carrierPaidAmount;
     EXPECT_TRUE(o.Insert());
-    return o.GetMaxId();
+    return o.ID_ZLECENIA_PRZYCH;
 }
 
 int ReportsFixture::addInvoice(const QString &number, int kind, const QDate &issued, int user,

@@ -29,7 +29,7 @@ int RegisterFixture::addOrder(const std::function<void(TZlecenia_przychObj &)> &
     if (change)
         change(order);
     EXPECT_TRUE(order.Insert());
-    return order.GetMaxId();
+    return order.ID_ZLECENIA_PRZYCH;
 }
 
 int RegisterFixture::addPlace(int orderKey, int type, const QString &street)
@@ -39,7 +39,7 @@ int RegisterFixture::addPlace(int orderKey, int type, const QString &street)
     place.ID_ZRP = type;
     place.ADRES1 = street;
     EXPECT_TRUE(place.Insert());
-    return place.GetMaxId();
+    return place.ID_MIEJSCA_ZLEC;
 }
 
 TZlecenia_przychObj RegisterFixture::order(int key)
