@@ -90,6 +90,7 @@ struct EngineRows::Data
     QHash<QString, int> indexes;
     QString text;
     bool onRow = false;
+    bool finished = false;
 
     XSQLDA *sqlda() { return reinterpret_cast<XSQLDA *>(descriptor.data()); }
     void allocate(int columns);
@@ -214,11 +215,17 @@ EngineRows::~EngineRows() = default;
 
 bool EngineRows::next()
 {
+    // The engine refuses a fetch after the last row; a reader asking again
+    // just hears that there are no more.
+    if (d->finished)
+        return false;
     ISC_STATUS_ARRAY status = {};
     const ISC_STATUS result = isc_dsql_fetch(status, &d->statement, SQL_DIALECT_V6, d->sqlda());
     d->onRow = result == 0;
-    if (result == 100)
+    if (result == 100) {
+        d->finished = true;
         return false;
+    }
     if (result != 0)
         d->fail(QStringLiteral("Błąd odczytu wyniku"), status);
     return true;

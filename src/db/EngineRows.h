@@ -25,7 +25,8 @@ public:
     EngineRows(const EngineRows &) = delete;
     EngineRows &operator=(const EngineRows &) = delete;
 
-    // Moves to the next row, the first one included; false after the last.
+    // Moves to the next row, the first one included; false after the last,
+    // and again whenever asked after that.
     bool next();
 
     int columnCount() const;

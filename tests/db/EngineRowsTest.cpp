@@ -71,6 +71,8 @@ TEST(EngineRows, ReadsInTheSessionsTransactionWhatItWroteAndNotYetCommitted)
     ASSERT_TRUE(rows.next());
     EXPECT_EQ(rows.string(0), QStringLiteral("źdźbło"));
     EXPECT_FALSE(rows.next());
+    // Asked again after the last row: still none, no fetch the engine refuses.
+    EXPECT_FALSE(rows.next());
     EXPECT_EQ(db.countSeenElsewhere(QStringLiteral("MIARY")), 0);
 }
 
