@@ -1,7 +1,16 @@
 #include "PeriodOrders.h"
 
+#include "Connection.h"
+#include "EngineRows.h"
 #include "OrderRevenueColumns.h"
 #include "Statement.h"
+#include "Transaction.h"
+
+#include <QHash>
+
+#include <algorithm>
+#include <map>
+#include <tuple>
 
 QString PeriodOrder::numberText() const
 {
@@ -18,82 +27,119 @@ QString routeText(const QString &from, const QString &via, const QString &to)
     return cities.join(QStringLiteral(" - "));
 }
 
-std::vector<PeriodOrder> PeriodOrders::read(Connection &connection) const
+namespace {
+
+// The names of a small table by key.
+QHash<int, QString> namesOf(Connection &connection, const QString &select)
 {
     Statement st(connection);
-    // The register's view joins eight tables; a statement needs six of them,
-    // and at a year of a large company every join left out counts. The
-    // columns keep the view's names.
-    st.add(QStringLiteral("SELECT z.ID_ZLECENIA_PRZYCH, z.NUMER, z.DATA, "));
-    st.add(QStringLiteral("z.IDKONTRAHENTA AS IDKONTRAHENT, k.SKROT AS KONTRAHENT, "));
-    st.add(QStringLiteral("z.IDPRZEWOZNIK, p.SKROT AS PRZEWOZNIK, z.IDUSER, u.LOGIN AS OPERATOR, "));
-    st.add(QStringLiteral("mo.NAZWA AS MIASTOOD, mv.NAZWA AS MIASTOVIA, md.NAZWA AS MIASTODO, "));
-    st.add(QStringLiteral("z.KWOTA, z.KM_LADOWNE, z.STAWKA_KMLAD, z.KM_PUSTE, z.STAWKA_KMPUSTY, "));
-    st.add(QStringLiteral("z.ILOSC_GODZIN, z.STAWKA_GODZINY, z.PALETYILOSC, z.STAWKA_PALETY, "));
-    st.add(QStringLiteral("z.KOSZTRAZEM, z.NUMER_FAKT_PRZEW AS NUMER_OBCA_FAK, "));
-    st.add(QStringLiteral("z.KWOTA_FAKT_PRZEW AS KWOTA_OBCA_FAKT FROM ZLECENIA_PRZYCH z "));
-    st.add(QStringLiteral("LEFT JOIN KONTRAHENCI k ON k.ID_KONTRAHENTA = z.IDKONTRAHENTA "));
-    st.add(QStringLiteral("LEFT JOIN KONTRAHENCI p ON p.ID_KONTRAHENTA = z.IDPRZEWOZNIK "));
-    st.add(QStringLiteral("LEFT JOIN MIASTA mo ON mo.ID_MIASTA = z.IDMIASTO_OD "));
-    st.add(QStringLiteral("LEFT JOIN MIASTA mv ON mv.ID_MIASTA = z.IDMIASTO_VIA "));
-    st.add(QStringLiteral("LEFT JOIN MIASTA md ON md.ID_MIASTA = z.IDMIASTO_DO "));
-    st.add(QStringLiteral("LEFT JOIN USERS u ON u.ID_USER = z.IDUSER "));
-    st.add(QStringLiteral("WHERE z.DATA BETWEEN :aOd AND :aDo "));
+    st.add(select);
+    st.exec();
+    QHash<int, QString> names;
+    for (; !st.atEnd(); st.next())
+        names.insert(st.integer(0), st.string(1));
+    return names;
+}
+
+} // namespace
+
+std::vector<PeriodOrder> PeriodOrders::read(Connection &connection) const
+{
+    // The names and the orders come from one snapshot of the database.
+    if (connection.inTransaction())
+        return readNow(connection);
+    Transaction transaction(connection);
+    TransactionScope snapshot(transaction);
+    return readNow(connection);
+}
+
+std::vector<PeriodOrder> PeriodOrders::readNow(Connection &connection) const
+{
+    // At a year of a large company the engine's joins and sort took most of
+    // a statement's reading: one index lookup per join and order, and a sort
+    // of the joined rows. The names come from their small tables once, and
+    // the orders are put in order here.
+    const QHash<int, QString> contractors = namesOf(
+        connection, QStringLiteral("SELECT ID_KONTRAHENTA, SKROT FROM KONTRAHENCI"));
+    const QHash<int, QString> cities
+        = namesOf(connection, QStringLiteral("SELECT ID_MIASTA, NAZWA FROM MIASTA"));
+    const QHash<int, QString> users
+        = namesOf(connection, QStringLiteral("SELECT ID_USER, LOGIN FROM USERS"));
+
+    Statement st(connection);
+    st.add(QStringLiteral("SELECT ID_ZLECENIA_PRZYCH, NUMER, DATA, IDKONTRAHENTA, IDPRZEWOZNIK, "));
+    st.add(QStringLiteral("IDUSER, IDMIASTO_OD, IDMIASTO_VIA, IDMIASTO_DO, "));
+    st.add(QStringLiteral("KWOTA, KM_LADOWNE, STAWKA_KMLAD, KM_PUSTE, STAWKA_KMPUSTY, "));
+    st.add(QStringLiteral("ILOSC_GODZIN, STAWKA_GODZINY, PALETYILOSC, STAWKA_PALETY, "));
+    st.add(QStringLiteral("KOSZTRAZEM, NUMER_FAKT_PRZEW, KWOTA_FAKT_PRZEW FROM ZLECENIA_PRZYCH "));
+    st.add(QStringLiteral("WHERE DATA BETWEEN :aOd AND :aDo "));
     switch (party) {
     case Client:
-        st.add(QStringLiteral("AND z.IDKONTRAHENTA = :aKlucz "));
+        st.add(QStringLiteral("AND IDKONTRAHENTA = :aKlucz"));
         break;
     case Carrier:
-        st.add(QStringLiteral("AND z.IDPRZEWOZNIK = :aKlucz "));
+        st.add(QStringLiteral("AND IDPRZEWOZNIK = :aKlucz"));
         break;
     case User:
-        st.add(QStringLiteral("AND z.IDUSER = :aKlucz "));
+        st.add(QStringLiteral("AND IDUSER = :aKlucz"));
         break;
     case Anyone:
         break;
     }
-    st.add(QStringLiteral("ORDER BY z.DATA, z.NUMER, z.ID_ZLECENIA_PRZYCH"));
     st.bind(QStringLiteral("aOd"), period.start());
     st.bind(QStringLiteral("aDo"), period.end());
     if (party != Anyone)
         st.bind(QStringLiteral("aKlucz"), key);
-    st.exec();
+    EngineRows rows(st);
 
-    const OrderRevenueColumns revenue(st);
-    const int cKey = st.columnIndex(QStringLiteral("ID_ZLECENIA_PRZYCH"));
-    const int cNumber = st.columnIndex(QStringLiteral("NUMER"));
-    const int cDate = st.columnIndex(QStringLiteral("DATA"));
-    const int cClient = st.columnIndex(QStringLiteral("IDKONTRAHENT"));
-    const int cClientName = st.columnIndex(QStringLiteral("KONTRAHENT"));
-    const int cCarrier = st.columnIndex(QStringLiteral("IDPRZEWOZNIK"));
-    const int cCarrierName = st.columnIndex(QStringLiteral("PRZEWOZNIK"));
-    const int cUser = st.columnIndex(QStringLiteral("IDUSER"));
-    const int cUserName = st.columnIndex(QStringLiteral("OPERATOR"));
-    const int cFrom = st.columnIndex(QStringLiteral("MIASTOOD"));
-    const int cVia = st.columnIndex(QStringLiteral("MIASTOVIA"));
-    const int cTo = st.columnIndex(QStringLiteral("MIASTODO"));
-    const int cCost = st.columnIndex(QStringLiteral("KOSZTRAZEM"));
-    const int cInvoice = st.columnIndex(QStringLiteral("NUMER_OBCA_FAK"));
-    const int cAmount = st.columnIndex(QStringLiteral("KWOTA_OBCA_FAKT"));
+    const OrderRevenueColumns revenue(rows);
+    const auto column = [&](const char *name) {
+        return OrderRevenueColumns::required(rows, name);
+    };
+    const int cKey = column("ID_ZLECENIA_PRZYCH");
+    const int cNumber = column("NUMER");
+    const int cDate = column("DATA");
+    const int cClient = column("IDKONTRAHENTA");
+    const int cCarrier = column("IDPRZEWOZNIK");
+    const int cUser = column("IDUSER");
+    const int cFrom = column("IDMIASTO_OD");
+    const int cVia = column("IDMIASTO_VIA");
+    const int cTo = column("IDMIASTO_DO");
+    const int cCost = column("KOSZTRAZEM");
+    const int cInvoice = column("NUMER_FAKT_PRZEW");
+    const int cAmount = column("KWOTA_FAKT_PRZEW");
 
+    // Orders share their route's text: a company runs few routes many times.
+    std::map<std::tuple<int, int, int>, QString> routes;
     std::vector<PeriodOrder> orders;
-    for (; !st.atEnd(); st.next()) {
+    while (rows.next()) {
         PeriodOrder o;
-        o.key = st.integer(cKey);
-        o.number = st.integer(cNumber);
-        o.date = st.dateTime(cDate);
-        o.client = st.integer(cClient);
-        o.clientName = st.string(cClientName);
-        o.carrier = st.integer(cCarrier);
-        o.carrierName = st.string(cCarrierName);
-        o.user = st.integer(cUser);
-        o.userName = st.string(cUserName);
-        o.route = routeText(st.string(cFrom), st.string(cVia), st.string(cTo));
-        o.revenue = revenue.revenue(st);
-        o.cost = st.number(cCost);
-        o.carrierInvoice = st.string(cInvoice);
-        o.carrierAmount = st.number(cAmount);
+        o.key = rows.integer(cKey);
+        o.number = rows.integer(cNumber);
+        o.date = rows.dateTime(cDate);
+        o.client = rows.integer(cClient);
+        o.clientName = contractors.value(o.client);
+        o.carrier = rows.integer(cCarrier);
+        o.carrierName = contractors.value(o.carrier);
+        o.user = rows.integer(cUser);
+        o.userName = users.value(o.user);
+        const std::tuple route{rows.integer(cFrom), rows.integer(cVia), rows.integer(cTo)};
+        auto known = routes.find(route);
+        if (known == routes.end()) {
+            known = routes.emplace(route, routeText(cities.value(std::get<0>(route)),
+                                                   cities.value(std::get<1>(route)),
+                                                   cities.value(std::get<2>(route))))
+                        .first;
+        }
+        o.route = known->second;
+        o.revenue = revenue.revenue(rows);
+        o.cost = rows.number(cCost);
+        o.carrierInvoice = rows.string(cInvoice);
+        o.carrierAmount = rows.number(cAmount);
         orders.push_back(std::move(o));
     }
+    std::sort(orders.begin(), orders.end(), [](const PeriodOrder &a, const PeriodOrder &b) {
+        return std::tie(a.date, a.number, a.key) < std::tie(b.date, b.number, b.key);
+    });
     return orders;
 }

@@ -44,6 +44,9 @@ struct PeriodOrders
 
     // Throws DbError.
     std::vector<PeriodOrder> read(Connection &connection) const;
+
+private:
+    std::vector<PeriodOrder> readNow(Connection &connection) const;
 };
 
 // "Gdańsk - Toruń - Kraków"; a city left empty is left out.

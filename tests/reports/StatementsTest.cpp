@@ -2,6 +2,7 @@
 #include "EngineRows.h"
 #include "MonthlyChart.h"
 #include "OrderListReader.h"
+#include "PeriodOrders.h"
 #include "ReportTexts.h"
 #include "ReportsFixture.h"
 #include "RowTexts.h"
@@ -101,6 +102,37 @@ TEST_F(Statements, RevenueIsTheRegistersForTheSameOrders)
                   registerRevenue.at(number))
             << number.toStdString();
     }
+}
+
+TEST_F(Statements, PeriodOrdersGoByDayNumberAndKeyWithTheNamesOfTheirKeys)
+{
+    // Inserted out of order; the second number 7 repeats on purpose.
+    const auto day = [](int month, int day) { return QDate(2026, month, day); };
+    const int late = addStatementOrder({.number = 2, .day = day(3, 9), .client = alfa});
+    const int sevenA = addStatementOrder({.number = 7, .day = day(3, 8), .client = beta,
+                                          .carrier = transX, .user = anna});
+    const int sevenB = addStatementOrder({.number = 7, .day = day(3, 8), .client = 999999});
+    const int five = addStatementOrder({.number = 5, .day = day(3, 8), .client = alfa});
+    const std::vector<PeriodOrder> orders
+        = PeriodOrders{march(), PeriodOrders::Anyone, 0}.read(db.connection());
+
+    std::vector<int> keys;
+    for (const PeriodOrder &o : orders)
+        keys.push_back(o.key);
+    EXPECT_EQ(keys, (std::vector<int>{five, sevenA, sevenB, late}));
+    EXPECT_EQ(orders[1].clientName, QStringLiteral("BETA"));
+    EXPECT_EQ(orders[1].carrierName, QStringLiteral("TRANS-X"));
+    EXPECT_EQ(orders[1].userName, QStringLiteral("anna"));
+    EXPECT_EQ(orders[1].route, QStringLiteral("Gdańsk - Kraków"));
+    EXPECT_EQ(orders[3].route, QStringLiteral("Gdańsk - Toruń - Kraków"));
+    // A key with no row names nobody, as an outer join would.
+    EXPECT_EQ(orders[2].clientName, QString());
+    EXPECT_EQ(orders[2].carrierName, QString());
+
+    const std::vector<PeriodOrder> alfas
+        = PeriodOrders{march(), PeriodOrders::Client, alfa}.read(db.connection());
+    ASSERT_EQ(alfas.size(), 2u);
+    EXPECT_EQ(alfas[0].key, five);
 }
 
 TEST_F(Statements, CarriersGoByNameWithTheInvoiceAgainstTheCostAndMissingInvoicesMarked)
