@@ -1,5 +1,6 @@
 #include "TfrmRepWspolnicy.h"
 
+#include "EngineRows.h"
 #include "Format.h"
 #include "PartnersLine.h"
 #include "ReportColumns.h"
@@ -59,6 +60,8 @@ TfrmRepWspolnicy::TfrmRepWspolnicy(Connection &connection)
     buildFooter();
 }
 
+TfrmRepWspolnicy::~TfrmRepWspolnicy() = default;
+
 void TfrmRepWspolnicy::run(QWidget *owner)
 {
     Connection *database = session().Database;
@@ -87,12 +90,13 @@ void TfrmRepWspolnicy::select(const PartnersSelection &selection)
 
 void TfrmRepWspolnicy::QuickRep1BeforePrint()
 {
+    m_rows.reset();
     Table1.close();
-    Table1.exec();
-    m_rate = Table1.columnIndex(QStringLiteral("STAWKA_RAZEM"));
-    m_cost = Table1.columnIndex(QStringLiteral("KOSZTRAZEM"));
+    m_rows = std::make_unique<EngineRows>(Table1);
+    m_rate = m_rows->columnIndex(QStringLiteral("STAWKA_RAZEM"));
+    m_cost = m_rows->columnIndex(QStringLiteral("KOSZTRAZEM"));
     m_line = 0;
-    m_rowPending = !Table1.atEnd();
+    m_rowPending = m_rows->next();
     m_report.band(QStringLiteral("QRBandDetail")).setEnabled(m_rowPending);
 }
 
@@ -101,10 +105,20 @@ bool TfrmRepWspolnicy::nextRow()
     // The first row is current once the query is open.
     if (m_rowPending)
         m_rowPending = false;
-    else if (!Table1.next())
+    else if (!m_rows->next())
         return false;
     ++m_line;
     return true;
+}
+
+double TfrmRepWspolnicy::number(int column) const
+{
+    return m_rows->number(column);
+}
+
+QString TfrmRepWspolnicy::field(const QString &column) const
+{
+    return m_rows->string(m_rows->columnIndex(column));
 }
 
 void TfrmRepWspolnicy::buildHeader()
@@ -130,16 +144,16 @@ void TfrmRepWspolnicy::buildDetail()
 {
     ReportBand &band = m_report.addBand(BandType::Detail, QStringLiteral("QRBandDetail"), Line);
     const auto text = [this](const char *column) {
-        return [this, name = QString::fromLatin1(column)] { return Table1.string(name); };
+        return [this, name = QString::fromLatin1(column)] { return field(name); };
     };
     const auto line = [this] { return PartnersLine{number(m_rate), number(m_cost)}; };
     addCell(band, Columns[Lp], [this] { return QString::number(m_line); });
     addCell(band, Columns[Kontrahent], text("KONTRAHENT"));
     addCell(band, Columns[FakDwyst],
-            [this] { return Format::date(Table1.dateTime(QStringLiteral("FAK_DWYST"))); });
+            [this] { return Format::date(m_rows->dateTime(m_rows->columnIndex(QStringLiteral("FAK_DWYST")))); });
     addCell(band, Columns[Trasa], [this]() -> QString {
-        return Table1.string(QStringLiteral("MIASTOOD")) + QStringLiteral(" - ")
-            + Table1.string(QStringLiteral("MIASTODO"));
+        return field(QStringLiteral("MIASTOOD")) + QStringLiteral(" - ")
+            + field(QStringLiteral("MIASTODO"));
     });
     addCell(band, Columns[Numer], text("NUMER"));
     addCell(band, Columns[Stawka], [line] { return money(line().rate); });

@@ -4,6 +4,9 @@
 #include "Report.h"
 #include "Statement.h"
 
+#include <memory>
+
+class EngineRows;
 class QWidget;
 
 // The partners report: invoiced incoming orders of a period with their
@@ -14,6 +17,7 @@ class TfrmRepWspolnicy
 {
 public:
     explicit TfrmRepWspolnicy(Connection &connection);
+    ~TfrmRepWspolnicy();
 
     // What the second entry point and the register's hidden entry do:
     // asks on the session's connection and previews the report when the
@@ -38,10 +42,14 @@ private:
     void buildDetail();
     void buildSummary();
     void buildFooter();
-    double number(int column) const { return Table1.number(column); }
+    double number(int column) const;
+    QString field(const QString &column) const;
 
     Connection &m_connection;
     Statement Table1;
+    // The rows of the open query; a year of a large company is tens of
+    // thousands of them, so they come straight from the engine.
+    std::unique_ptr<EngineRows> m_rows;
     QString m_title;
     int m_confirmed = 0;
     int m_line = 0;
