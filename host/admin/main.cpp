@@ -7,6 +7,8 @@
 //                                          directory, created and seeded on first use
 //   haulix-admin backup DB FILE.fbk        a copy through gbak, while others work
 //   haulix-admin restore FILE.fbk NEWDB    a database from a copy, never over another
+//   haulix-admin statistics DB             the indexes measured again, for the engine
+//                                          to read a grown company's tables well
 //   haulix-admin server-setup PATH         a database on a Firebird server for the
 //                                          workstations, with a user of their own
 //   haulix-admin invoice PATH --client ...  a client's orders of a period onto one invoice
@@ -17,6 +19,7 @@
 #include "DbError.h"
 #include "DemoDatabase.h"
 #include "DemoSeeder.h"
+#include "IndexStatistics.h"
 #include "InvoiceCommand.h"
 #include "Schema.h"
 #include "ServerSetup.h"
@@ -53,6 +56,7 @@ int usage()
           << InvoiceCommand::usage()
           << "  haulix-admin backup BAZA PLIK.fbk [--login PLIK]\n"
              "  haulix-admin restore PLIK.fbk NOWA_BAZA [--login PLIK]\n"
+             "  haulix-admin statistics BAZA [--login PLIK]\n"
              "  haulix-admin server-setup ŚCIEŻKA [--from BAZA] [--server HOST[/PORT]]\n"
              "                            [--admin PLIK] [--login PLIK]\n"
              "BAZA to plik albo host[/port]:ścieżka na serwerze Firebird; --login to plik\n"
@@ -144,6 +148,21 @@ int restore(const CommandArguments &arguments)
                  QStringLiteral("Baza %1 odtworzona z kopii %2 (%3 s).").arg(database, file));
 }
 
+int statistics(const CommandArguments &arguments)
+{
+    const QString database = arguments.positional().at(0);
+    Connection connection;
+    const QString loginFile = arguments.option(QStringLiteral("login"));
+    if (Connection::isServerTarget(database) && !loginFile.isEmpty()) {
+        const FirebirdLogin login = FirebirdLogin::read(loginFile);
+        connection.open(database, login.user, login.password);
+    } else {
+        connection.open(database);
+    }
+    return timed([&] { IndexStatistics::refresh(connection); },
+                 QStringLiteral("Indeksy bazy %1 zmierzone na nowo (%2 s).").arg(database));
+}
+
 int serverSetup(const CommandArguments &arguments)
 {
     ServerSetup::Options options;
@@ -170,6 +189,7 @@ struct Command
 const Command OptionCommands[] = {
     {"backup", 2, {QStringLiteral("login")}, backup},
     {"restore", 2, {QStringLiteral("login")}, restore},
+    {"statistics", 1, {QStringLiteral("login")}, statistics},
     {"server-setup", 1,
      {QStringLiteral("from"), QStringLiteral("server"), QStringLiteral("admin"),
       QStringLiteral("login")},

@@ -2,6 +2,7 @@
 
 #include "DemoCatalog.h"
 #include "DemoPlan.h"
+#include "IndexStatistics.h"
 #include "Statement.h"
 #include "TableObjects.h"
 #include "Transaction.h"
@@ -33,6 +34,7 @@ void DemoSeeder::seed()
     seedSiblingRegisters();
     seedCollectiveOrders();
     scope.commit();
+    IndexStatistics::refresh(m_connection);
 }
 
 void DemoSeeder::exec(const QString &sql)
