@@ -10,7 +10,7 @@ packages=(
   qt6-charts-dev
   firebird3.0-server-core firebird3.0-utils firebird-dev firebird3.0-server
   googletest libgtest-dev libbenchmark-dev
-  poppler-utils
+  poppler-utils qpdf zlib1g-dev  # PDF files joined from parts: checked by qpdf, read in tests
   libxml2-dev libxml2-utils  # e-invoices checked against their schema; xmllint in tests
   dpkg-dev file  # the package: dpkg-shlibdeps names the libraries' packages
   fonts-dejavu-core fonts-wine

@@ -1,20 +1,10 @@
 #include "PdfBook.h"
 
+#include "PdfDocument.h"
 #include "Report.h"
 #include "ReportError.h"
-#include "ReportPainter.h"
 
-#include <QPainter>
-#include <QPdfWriter>
 #include <QSaveFile>
-
-namespace {
-
-constexpr double MmPerInch = 25.4;
-// As the engine's own PDF files: fine enough for hairlines.
-constexpr int Resolution = 600;
-
-} // namespace
 
 void PdfBook::add(Report &report)
 {
@@ -33,29 +23,10 @@ int PdfBook::pageCount() const
 
 void PdfBook::write(QIODevice &device) const
 {
-    QPdfWriter writer(&device);
-    writer.setResolution(Resolution);
-    if (!m_sections.empty())
-        writer.setTitle(m_sections.front().title);
-    writer.setCreator(QStringLiteral("Haulix Zlecenia"));
-    bool first = true;
-    QPainter painter;
-    for (const Section &section : m_sections) {
-        for (const ReportPage &page : section.pages) {
-            // The sheet of the next page is set before it is started.
-            writer.setPageLayout(section.setup.pageLayout());
-            if (first) {
-                if (!painter.begin(&writer))
-                    throw ReportError(QStringLiteral("Nie można rozpocząć zapisu pliku PDF."));
-                first = false;
-            } else if (!writer.newPage()) {
-                throw ReportError(QStringLiteral("Nie można rozpocząć nowej strony wydruku."));
-            }
-            ReportPainter::paintPage(painter, page, writer.logicalDpiX() / MmPerInch);
-        }
-    }
-    if (!first)
-        painter.end();
+    PdfDocument document(m_sections.empty() ? QString() : m_sections.front().title);
+    for (const Section &section : m_sections)
+        document.addPages(section.pages, section.setup.pageLayout());
+    document.write(device);
 }
 
 void PdfBook::save(const QString &path) const

@@ -1,18 +1,18 @@
 #include "ReportPainter.h"
 
+#include "PdfDocument.h"
 #include "ReportError.h"
+#include "ReportTextCache.h"
 
 #include <QDir>
 #include <QFileInfo>
 #include <QPainter>
-#include <QPdfWriter>
 #include <QPrinter>
+#include <QSaveFile>
 
 namespace {
 
 constexpr double mmPerInch = 25.4;
-// Fine enough for hairlines, small enough to keep files quick to write.
-constexpr int pdfResolution = 600;
 
 QRectF scaled(const QRectF &rectMm, double dotsPerMm)
 {
@@ -31,6 +31,7 @@ struct ItemPainter
 {
     QPainter &painter;
     double dotsPerMm;
+    ReportTextCache *texts;
     // Setting the painter's font is dear; texts in a row mostly share one.
     mutable const ReportFont *currentFont = nullptr;
 
@@ -44,7 +45,10 @@ struct ItemPainter
             currentFont = item.font.get();
         }
         const int flags = static_cast<int>(item.alignment) | (item.wordWrap ? Qt::TextWordWrap : 0);
-        painter.drawText(scaled(item.rectMm, dotsPerMm), flags, item.text);
+        if (texts)
+            texts->draw(painter, *item.font, scaled(item.rectMm, dotsPerMm), flags, item.text);
+        else
+            painter.drawText(scaled(item.rectMm, dotsPerMm), flags, item.text);
     }
     void operator()(const ReportLineItem &item) const
     {
@@ -68,10 +72,11 @@ struct ItemPainter
 
 } // namespace
 
-void ReportPainter::paintPage(QPainter &painter, const ReportPage &page, double dotsPerMm)
+void ReportPainter::paintPage(QPainter &painter, const ReportPage &page, double dotsPerMm,
+                              ReportTextCache *texts)
 {
     painter.save();
-    const ItemPainter itemPainter{painter, dotsPerMm};
+    const ItemPainter itemPainter{painter, dotsPerMm, texts};
     for (const ReportItem &item : page.items)
         std::visit(itemPainter, item);
     painter.restore();
@@ -91,10 +96,11 @@ void ReportPainter::paintPages(QPagedPaintDevice &device, const std::vector<Repo
     if (!painter.begin(&device))
         throw ReportError(QStringLiteral("Nie można rozpocząć drukowania."));
     const double dotsPerMm = device.logicalDpiX() / mmPerInch;
+    ReportTextCache texts;
     for (size_t index = 0; index < pages.size(); ++index) {
         if (index > 0 && !device.newPage())
             throw ReportError(QStringLiteral("Nie można rozpocząć nowej strony wydruku."));
-        paintPage(painter, pages[index], dotsPerMm);
+        paintPage(painter, pages[index], dotsPerMm, &texts);
     }
     painter.end();
 }
@@ -103,12 +109,15 @@ void ReportPainter::writePdf(const QString &path, const std::vector<ReportPage> 
                              const ReportPageSetup &setup, const QString &title)
 {
     const QFileInfo target(path);
+    const auto failed = [&] { return ReportError(QStringLiteral("Nie można zapisać pliku %1.").arg(path)); };
     if (!target.absoluteDir().exists() || (target.exists() && !target.isWritable()))
-        throw ReportError(QStringLiteral("Nie można zapisać pliku %1.").arg(path));
-    QPdfWriter writer(path);
-    writer.setResolution(pdfResolution);
-    writer.setPageLayout(setup.pageLayout());
-    writer.setTitle(title);
-    writer.setCreator(QStringLiteral("Haulix Zlecenia"));
-    paintPages(writer, pages);
+        throw failed();
+    PdfDocument document(title);
+    document.addPages(pages, setup.pageLayout());
+    QSaveFile file(path);
+    if (!file.open(QIODevice::WriteOnly))
+        throw failed();
+    document.write(file);
+    if (!file.commit())
+        throw failed();
 }

@@ -10,12 +10,16 @@
 class QPagedPaintDevice;
 class QPainter;
 class QPrinter;
+class ReportTextCache;
 
 // Paints pre-rendered pages. The devices are set up without margins, so
 // page coordinates are sheet coordinates.
 namespace ReportPainter {
 
-void paintPage(QPainter &painter, const ReportPage &page, double dotsPerMm);
+// texts: where the texts of many pages painted one after the other are
+// laid out once; none lays each text out as it is painted.
+void paintPage(QPainter &painter, const ReportPage &page, double dotsPerMm,
+               ReportTextCache *texts = nullptr);
 
 // Sets a printer to the report's sheet; call before painting onto it.
 void setUpPrinter(QPrinter &printer, const ReportPageSetup &setup, const QString &title);
