@@ -25,6 +25,7 @@ bench: build
 	$(BUILD)/bin/haulix-bench-statements
 	$(BUILD)/bin/haulix-bench-invoicing
 	$(BUILD)/bin/haulix-bench-writes
+	$(BUILD)/bin/haulix-bench-year-reports
 
 # haulix_<version>_amd64.deb in the build directory, from the programs built there.
 package: build
