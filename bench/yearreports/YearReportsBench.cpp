@@ -143,6 +143,9 @@ int main(int argc, char **argv)
             double mb;
         };
         std::vector<Goal> goals;
+        // Alone on the file, as a report run at night is: a second process
+        // on an embedded database makes the engine lock every page it reads.
+        connection.close();
         std::printf("every order, haulix-print in a process of its own:\n");
         for (const char *report :
              {"statement-clients", "statement-carriers", "partners", "invoices-statement"}) {
@@ -164,6 +167,7 @@ int main(int argc, char **argv)
 
         // Side by side: the clients statement's pages painted as before and
         // as now.
+        connection.open(database);
         TfrmZestawienieKontrahenta statement(connection, {from, to}, 0);
         std::vector<ReportPage> pages;
         {
