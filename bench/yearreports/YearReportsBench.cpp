@@ -134,7 +134,8 @@ int main(int argc, char **argv)
                     arguments.orders, qPrintable(period[0]), qPrintable(period[1]),
                     QThread::idealThreadCount(), arguments.repetitions);
 
-        const QString print = QCoreApplication::applicationDirPath() + QStringLiteral("/haulix-print");
+        const QString print
+            = QCoreApplication::applicationDirPath() + QStringLiteral("/haulix-print");
         const QString file = scratch.filePath(QStringLiteral("raport.pdf"));
         struct Goal
         {
@@ -184,7 +185,8 @@ int main(int argc, char **argv)
         const double kept = timer.measure(QStringLiteral("  one part, kept glyphs"),
                                           [&] { paintOnePart(pages, layout, true); },
                                           arguments.repetitions);
-        const double parts = timer.measure(QStringLiteral("  parts on every core, kept glyphs"), [&] {
+        const QString partsStep = QStringLiteral("  parts on every core, kept glyphs");
+        const double parts = timer.measure(partsStep, [&] {
             PdfDocument document(statement.report().title());
             document.addPages(pages, layout);
             QByteArray bytes;

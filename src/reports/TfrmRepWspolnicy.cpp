@@ -149,8 +149,9 @@ void TfrmRepWspolnicy::buildDetail()
     const auto line = [this] { return PartnersLine{number(m_rate), number(m_cost)}; };
     addCell(band, Columns[Lp], [this] { return QString::number(m_line); });
     addCell(band, Columns[Kontrahent], text("KONTRAHENT"));
-    addCell(band, Columns[FakDwyst],
-            [this] { return Format::date(m_rows->dateTime(m_rows->columnIndex(QStringLiteral("FAK_DWYST")))); });
+    addCell(band, Columns[FakDwyst], [this] {
+        return Format::date(m_rows->dateTime(m_rows->columnIndex(QStringLiteral("FAK_DWYST"))));
+    });
     addCell(band, Columns[Trasa], [this]() -> QString {
         return field(QStringLiteral("MIASTOOD")) + QStringLiteral(" - ")
             + field(QStringLiteral("MIASTODO"));

@@ -109,7 +109,9 @@ void ReportPainter::writePdf(const QString &path, const std::vector<ReportPage> 
                              const ReportPageSetup &setup, const QString &title)
 {
     const QFileInfo target(path);
-    const auto failed = [&] { return ReportError(QStringLiteral("Nie można zapisać pliku %1.").arg(path)); };
+    const auto failed = [&] {
+        return ReportError(QStringLiteral("Nie można zapisać pliku %1.").arg(path));
+    };
     if (!target.absoluteDir().exists() || (target.exists() && !target.isWritable()))
         throw failed();
     PdfDocument document(title);

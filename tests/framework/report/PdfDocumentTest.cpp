@@ -40,7 +40,8 @@ QString structureErrors(const QString &path)
     qpdf.start(QStringLiteral("qpdf"), {QStringLiteral("--check"), path});
     if (!qpdf.waitForFinished(60000))
         return QStringLiteral("qpdf did not run (package qpdf)");
-    const QString output = QString::fromUtf8(qpdf.readAllStandardOutput() + qpdf.readAllStandardError());
+    const QString output
+        = QString::fromUtf8(qpdf.readAllStandardOutput() + qpdf.readAllStandardError());
     return qpdf.exitCode() == 0 && !output.contains(QStringLiteral("WARNING")) ? QString() : output;
 }
 
@@ -119,9 +120,11 @@ TEST(PdfDocument, PartsPaintedApartJoinIntoTheSameDocument)
 
     EXPECT_EQ(structureErrors(joined), QString());
     EXPECT_EQ(Poppler::info(joined, QStringLiteral("Pages")), QString::number(pages));
-    EXPECT_EQ(Poppler::info(joined, QStringLiteral("Title")), QStringLiteral("Faktury przewoźników"));
+    EXPECT_EQ(Poppler::info(joined, QStringLiteral("Title")),
+              QStringLiteral("Faktury przewoźników"));
     EXPECT_EQ(Poppler::text(joined), Poppler::text(whole));
-    EXPECT_EQ(Poppler::info(joined, QStringLiteral("size"), 1), QStringLiteral("595 x 842 pts (A4)"));
+    EXPECT_EQ(Poppler::info(joined, QStringLiteral("size"), 1),
+              QStringLiteral("595 x 842 pts (A4)"));
     EXPECT_EQ(Poppler::info(joined, QStringLiteral("size"), pages),
               QStringLiteral("842 x 595 pts (A4)"));
     // Each part embeds its own subset of a font under a name of its own.
@@ -129,11 +132,12 @@ TEST(PdfDocument, PartsPaintedApartJoinIntoTheSameDocument)
     ASSERT_TRUE(file.open(QIODevice::ReadOnly));
     const QByteArray bytes = file.readAll();
     QStringList subsets;
-    for (const QRegularExpressionMatch &match :
-         QRegularExpression(QStringLiteral("/FontName /([A-Z]{6})\\+")).globalMatch(QString::fromLatin1(bytes)))
+    const QRegularExpression fontName(QStringLiteral("/FontName /([A-Z]{6})\\+"));
+    for (const QRegularExpressionMatch &match : fontName.globalMatch(QString::fromLatin1(bytes)))
         subsets << match.captured(1);
     EXPECT_GT(subsets.size(), 3);
-    EXPECT_EQ(QSet<QString>(subsets.begin(), subsets.end()).size(), subsets.size()) << subsets.join(u' ').toStdString();
+    EXPECT_EQ(QSet<QString>(subsets.begin(), subsets.end()).size(), subsets.size())
+        << subsets.join(u' ').toStdString();
 }
 
 TEST(PdfDocument, DrawingsArePaintedOnTheCallingThreadOrTheDocumentIsNotSplit)
@@ -172,9 +176,8 @@ TEST(PdfJoin, RefusesWhatQPdfWriterDidNotWrite)
     QBuffer buffer(&out);
     buffer.open(QIODevice::WriteOnly);
     EXPECT_THROW(PdfJoin::join({QByteArray("to nie jest PDF")}, buffer), ReportError);
-    EXPECT_THROW(PdfJoin::join({QByteArray("%PDF-1.4\nxref\n0 1\ntrailer\n<< >>\nstartxref\n9\n%%EOF\n")},
-                               buffer),
-                 ReportError);
+    const QByteArray noObjects("%PDF-1.4\nxref\n0 1\ntrailer\n<< >>\nstartxref\n9\n%%EOF\n");
+    EXPECT_THROW(PdfJoin::join({noObjects}, buffer), ReportError);
 }
 
 TEST(ReportTextCache, DrawsEveryTextWithTheGlyphsAndPlacesQPainterGivesIt)
@@ -195,7 +198,8 @@ TEST(ReportTextCache, DrawsEveryTextWithTheGlyphsAndPlacesQPainterGivesIt)
         QStringLiteral("Zażółć gęślą jaźń"), QStringLiteral("1\u00a0747,74"),
         QStringLiteral("-374,20"), QStringLiteral("2026-11-22"), QStringLiteral("47,4%"),
         QStringLiteral("Gdańsk - Toruń - Kraków"), QStringLiteral("00012345"),
-        QStringLiteral("7.4/(17)"), QStringLiteral("Zażółć gęślą jaźń"), QStringLiteral("AVAWAY To 7,")};
+        QStringLiteral("7.4/(17)"), QStringLiteral("Zażółć gęślą jaźń"),
+        QStringLiteral("AVAWAY To 7,")};
     const Qt::Alignment alignments[] = {
         Qt::AlignLeft | Qt::AlignVCenter, Qt::AlignRight | Qt::AlignVCenter,
         Qt::AlignHCenter | Qt::AlignTop, Qt::AlignRight | Qt::AlignBottom};
