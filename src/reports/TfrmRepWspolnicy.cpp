@@ -93,6 +93,9 @@ void TfrmRepWspolnicy::QuickRep1BeforePrint()
     m_rows.reset();
     Table1.close();
     m_rows = std::make_unique<EngineRows>(Table1);
+    m_columns.clear();
+    for (int column = 0; column < m_rows->columnCount(); ++column)
+        m_columns.insert(m_rows->columnName(column), column);
     m_rate = m_rows->columnIndex(QStringLiteral("STAWKA_RAZEM"));
     m_cost = m_rows->columnIndex(QStringLiteral("KOSZTRAZEM"));
     m_line = 0;
@@ -118,7 +121,7 @@ double TfrmRepWspolnicy::number(int column) const
 
 QString TfrmRepWspolnicy::field(const QString &column) const
 {
-    return m_rows->string(m_rows->columnIndex(column));
+    return m_rows->string(m_columns.value(column, -1));
 }
 
 void TfrmRepWspolnicy::buildHeader()
@@ -150,7 +153,7 @@ void TfrmRepWspolnicy::buildDetail()
     addCell(band, Columns[Lp], [this] { return QString::number(m_line); });
     addCell(band, Columns[Kontrahent], text("KONTRAHENT"));
     addCell(band, Columns[FakDwyst], [this] {
-        return Format::date(m_rows->dateTime(m_rows->columnIndex(QStringLiteral("FAK_DWYST"))));
+        return Format::date(m_rows->dateTime(m_columns.value(QStringLiteral("FAK_DWYST"), -1)));
     });
     addCell(band, Columns[Trasa], [this]() -> QString {
         return field(QStringLiteral("MIASTOOD")) + QStringLiteral(" - ")

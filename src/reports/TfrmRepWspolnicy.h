@@ -4,6 +4,8 @@
 #include "Report.h"
 #include "Statement.h"
 
+#include <QHash>
+
 #include <memory>
 
 class EngineRows;
@@ -50,6 +52,8 @@ private:
     // The rows of the open query; a year of a large company is tens of
     // thousands of them, so they come straight from the engine.
     std::unique_ptr<EngineRows> m_rows;
+    // Its columns by name, looked up for every cell of every row.
+    QHash<QString, int> m_columns;
     QString m_title;
     int m_confirmed = 0;
     int m_line = 0;
