@@ -96,8 +96,8 @@ void TfrmRepWspolnicy::QuickRep1BeforePrint()
     m_columns.clear();
     for (int column = 0; column < m_rows->columnCount(); ++column)
         m_columns.insert(m_rows->columnName(column), column);
-    m_rate = m_rows->columnIndex(QStringLiteral("STAWKA_RAZEM"));
-    m_cost = m_rows->columnIndex(QStringLiteral("KOSZTRAZEM"));
+    m_rate = m_columns.value(QStringLiteral("STAWKA_RAZEM"), -1);
+    m_cost = m_columns.value(QStringLiteral("KOSZTRAZEM"), -1);
     m_line = 0;
     m_rowPending = m_rows->next();
     m_report.band(QStringLiteral("QRBandDetail")).setEnabled(m_rowPending);

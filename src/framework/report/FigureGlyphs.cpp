@@ -1,36 +1,5 @@
 #include "FigureGlyphs.h"
 
-#include <QPainter>
-#include <QTextLayout>
-
-namespace {
-
-struct Measured
-{
-    QList<QGlyphRun> runs;
-    double advance = 0.0;
-    double height = 0.0;
-};
-
-// One line as QPainter lays it out, spaces at its end counted.
-Measured measure(QPainter &painter, const QString &text)
-{
-    QTextLayout layout(text, painter.font(), painter.device());
-    layout.setCacheEnabled(true);
-    QTextOption option;
-    option.setTextDirection(painter.layoutDirection());
-    option.setFlags(QTextOption::IncludeTrailingSpaces);
-    layout.setTextOption(option);
-    layout.beginLayout();
-    QTextLine line = layout.createLine();
-    line.setLineWidth(0x01000000);
-    line.setPosition(QPointF(0.0, 0.0));
-    layout.endLayout();
-    return {layout.glyphRuns(), line.horizontalAdvance(), line.ascent() + line.descent()};
-}
-
-} // namespace
-
 int FigureGlyphs::indexOf(char16_t c)
 {
     for (int index = 0; index < Count; ++index) {
@@ -43,7 +12,7 @@ int FigureGlyphs::indexOf(char16_t c)
 FigureGlyphs::FigureGlyphs(QPainter &painter)
 {
     for (int index = 0; index < Count; ++index) {
-        const Measured single = measure(painter, QString(QChar(Figures[index])));
+        const TextLine single = TextLine::layOut(painter, QString(QChar(Figures[index])));
         if (single.runs.size() != 1 || single.runs.front().glyphIndexes().size() != 1)
             continue;
         const QGlyphRun &run = single.runs.front();
@@ -67,7 +36,7 @@ FigureGlyphs::FigureGlyphs(QPainter &painter)
             if (!a.usable || !b.usable)
                 continue;
             const QChar both[] = {QChar(Figures[first]), QChar(Figures[second])};
-            const Measured pair = measure(painter, QString(both, 2));
+            const TextLine pair = TextLine::layOut(painter, QString(both, 2));
             const QGlyphRun *run = pair.runs.size() == 1 ? &pair.runs.front() : nullptr;
             const bool set = run && run->rawFont() == m_font
                 && run->glyphIndexes() == QList<quint32>{a.glyph, b.glyph}
@@ -88,7 +57,7 @@ FigureGlyphs::FigureGlyphs(QPainter &painter)
     }
 }
 
-std::optional<FigureGlyphs::Line> FigureGlyphs::compose(const QString &text) const
+std::optional<TextLine> FigureGlyphs::compose(const QString &text) const
 {
     QList<quint32> glyphs;
     QList<QPointF> positions;
@@ -107,11 +76,9 @@ std::optional<FigureGlyphs::Line> FigureGlyphs::compose(const QString &text) con
         x += m_figures[index].advance;
         previous = index;
     }
-    Line line;
-    line.run.setRawFont(m_font);
-    line.run.setGlyphIndexes(glyphs);
-    line.run.setPositions(positions);
-    line.advance = x;
-    line.height = m_height;
-    return line;
+    QGlyphRun run;
+    run.setRawFont(m_font);
+    run.setGlyphIndexes(glyphs);
+    run.setPositions(positions);
+    return TextLine{true, x, x, m_height, {run}};
 }

@@ -1,6 +1,7 @@
 #pragma once
 
-#include <QGlyphRun>
+#include "TextLine.h"
+
 #include <QRawFont>
 #include <QString>
 
@@ -21,14 +22,8 @@ public:
     // Measures the figures in the painter's font on the painter's device.
     explicit FigureGlyphs(QPainter &painter);
 
-    struct Line
-    {
-        QGlyphRun run;       // laid out from (0, 0), the baseline at the ascent
-        double advance = 0.0;
-        double height = 0.0; // ascent and descent
-    };
     // None when a character of the text is not a checked figure.
-    std::optional<Line> compose(const QString &text) const;
+    std::optional<TextLine> compose(const QString &text) const;
 
 private:
     static constexpr char16_t Figures[] = u"0123456789 \u00a0,.-+%:/()";

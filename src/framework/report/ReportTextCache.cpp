@@ -3,7 +3,6 @@
 #include "FigureGlyphs.h"
 
 #include <QPainter>
-#include <QTextLayout>
 
 namespace {
 
@@ -54,22 +53,21 @@ void ReportTextCache::draw(QPainter &painter, const ReportFont &font, const QRec
     std::unique_ptr<FigureGlyphs> &figures = m_figures[&font];
     if (!figures)
         figures = std::make_unique<FigureGlyphs>(painter);
-    if (const std::optional<FigureGlyphs::Line> line = figures->compose(text)) {
-        paint(painter, Shape{true, line->advance, line->advance, line->height, {line->run}}, rect,
-              flags, text);
+    if (const std::optional<TextLine> line = figures->compose(text)) {
+        paint(painter, *line, rect, flags, text);
         return;
     }
     if (m_shapes.size() >= MaxShapes)
         m_shapes.clear();
-    paint(painter, *m_shapes.insert(key, shape(painter, text)), rect, flags, text);
+    paint(painter, *m_shapes.insert(key, TextLine::layOut(painter, text)), rect, flags, text);
 }
 
-void ReportTextCache::paint(QPainter &painter, const Shape &shape, const QRectF &rect, int flags,
-                            const QString &text)
+void ReportTextCache::paint(QPainter &painter, const TextLine &shape, const QRectF &rect,
+                            int flags, const QString &text)
 {
     // What QPainter::drawText does with one line that fits its box; a line
     // that does not fit is clipped, which is left to it.
-    if (!shape.laidOut || shape.width > rect.width() || shape.height > rect.height()) {
+    if (!shape.single || shape.width > rect.width() || shape.height > rect.height()) {
         painter.drawText(rect, flags, text);
         return;
     }
@@ -85,29 +83,4 @@ void ReportTextCache::paint(QPainter &painter, const Shape &shape, const QRectF 
         y = (rect.height() - shape.height) / 2;
     for (const QGlyphRun &run : shape.runs)
         painter.drawGlyphRun(rect.topLeft() + QPointF(x, y), run);
-}
-
-ReportTextCache::Shape ReportTextCache::shape(QPainter &painter, const QString &text)
-{
-    Shape result;
-    QTextLayout layout(text, painter.font(), painter.device());
-    // The glyphs are kept from the layout for glyphRuns(), not shaped again.
-    layout.setCacheEnabled(true);
-    QTextOption option;
-    option.setTextDirection(painter.layoutDirection());
-    layout.setTextOption(option);
-    layout.beginLayout();
-    QTextLine line = layout.createLine();
-    line.setLineWidth(0x01000000);
-    line.setPosition(QPointF(0.0, 0.0));
-    const bool oneLine = !layout.createLine().isValid();
-    layout.endLayout();
-    if (!oneLine)
-        return result;
-    result.laidOut = true;
-    result.width = line.naturalTextWidth();
-    result.advance = line.horizontalAdvance();
-    result.height = line.ascent() + line.descent();
-    result.runs = layout.glyphRuns();
-    return result;
 }

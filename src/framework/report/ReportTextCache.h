@@ -1,9 +1,8 @@
 #pragma once
 
-#include <QGlyphRun>
+#include "TextLine.h"
+
 #include <QHash>
-#include <QList>
-#include <QPointF>
 #include <QRectF>
 #include <QString>
 
@@ -41,19 +40,9 @@ private:
             return qHashMulti(seed, key.font, key.text);
         }
     };
-    struct Shape
-    {
-        bool laidOut = false;   // false: QPainter draws it
-        double width = 0.0;     // as QTextLine gives them
-        double advance = 0.0;
-        double height = 0.0;
-        QList<QGlyphRun> runs;
-    };
-
-    static Shape shape(QPainter &painter, const QString &text);
-    static void paint(QPainter &painter, const Shape &shape, const QRectF &rect, int flags,
+    static void paint(QPainter &painter, const TextLine &shape, const QRectF &rect, int flags,
                       const QString &text);
 
-    QHash<Key, Shape> m_shapes;
+    QHash<Key, TextLine> m_shapes;
     std::unordered_map<const ReportFont *, std::unique_ptr<FigureGlyphs>> m_figures;
 };
