@@ -91,6 +91,15 @@ const std::vector<ReportPage> &Report::prepare()
     return m_pages;
 }
 
+void Report::prepare(const std::function<void(ReportPage &&page)> &takePage)
+{
+    m_pages.clear();
+    m_pageNumber = 0;
+    if (m_beforePrint)
+        m_beforePrint();
+    ReportPreRenderer(*this, takePage).run();
+}
+
 bool Report::prepareShowingErrors()
 {
     try {

@@ -75,6 +75,11 @@ public:
 
     // Lays the report out again; errors of the data source propagate.
     const std::vector<ReportPage> &prepare();
+    // Lays the report out, giving each page away as soon as nothing on it
+    // can change any more, so that a long report can be written while it
+    // is still being laid out; pages() stays empty. Errors of the data
+    // source propagate.
+    void prepare(const std::function<void(ReportPage &&page)> &takePage);
     // The same, but a failure is shown to the user and answered with false.
     bool prepareShowingErrors();
     const std::vector<ReportPage> &pages() const { return m_pages; }

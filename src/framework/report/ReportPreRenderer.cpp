@@ -36,7 +36,8 @@ double footerReserve(const Report &report)
 
 } // namespace
 
-ReportPreRenderer::ReportPreRenderer(Report &report) : m_report(report)
+ReportPreRenderer::ReportPreRenderer(Report &report, PageHandler takePage)
+    : m_report(report), m_takePage(std::move(takePage))
 {
 }
 
@@ -86,6 +87,7 @@ std::vector<ReportPage> ReportPreRenderer::run()
         printBodyBand(*band);
     finishPage(true);
     resolvePageTexts();
+    handOverFinishedPages();
     return std::move(m_pages);
 }
 
@@ -159,10 +161,22 @@ void ReportPreRenderer::resetSumsOf(size_t level)
     }
 }
 
+void ReportPreRenderer::handOverFinishedPages()
+{
+    // A page waiting for the number of pages, and every page after it, is
+    // kept until the end.
+    if (!m_takePage || !m_pendingPageTexts.empty())
+        return;
+    for (ReportPage &page : m_pages)
+        m_takePage(std::move(page));
+    m_pagesHandedOver += static_cast<int>(m_pages.size());
+    m_pages.clear();
+}
+
 void ReportPreRenderer::startPage()
 {
     const ReportPageSetup &setup = m_report.pageSetup();
-    const int number = static_cast<int>(m_pages.size()) + 1;
+    const int number = m_pagesHandedOver + static_cast<int>(m_pages.size()) + 1;
     m_pages.push_back(ReportPage{number, setup.pageSizeMm(), {}});
     m_report.m_pageNumber = number;
     const QRectF content = setup.contentRectMm();
@@ -170,7 +184,7 @@ void ReportPreRenderer::startPage()
     m_bodyBottom = content.bottom() - footerReserve(m_report);
     m_bodyStarted = false;
 
-    const bool firstPage = m_pages.size() == 1;
+    const bool firstPage = number == 1;
     for (ReportBand *band : m_report.bands(BandType::PageHeader)) {
         if (!firstPage || band->printOnFirstPage())
             printFixedBand(*band);
@@ -193,7 +207,7 @@ void ReportPreRenderer::startPage()
 
 void ReportPreRenderer::finishPage(bool lastPage)
 {
-    const bool firstPage = m_pages.size() == 1;
+    const bool firstPage = page().number == 1;
     m_y = m_report.pageSetup().contentRectMm().bottom() - footerReserve(m_report);
     for (ReportBand *band : m_report.bands(BandType::PageFooter)) {
         const bool wanted = (!firstPage || band->printOnFirstPage())
@@ -225,6 +239,7 @@ void ReportPreRenderer::printBodyBand(ReportBand &band, bool takesRow)
     const double height = bandHeight(band, texts);
     if (m_bodyStarted && (band.forceNewPage() || m_y + height > m_bodyBottom)) {
         finishPage(false);
+        handOverFinishedPages();
         startPage();
     }
     place(band, texts, height);
@@ -308,7 +323,7 @@ void ReportPreRenderer::place(const ReportBand &band, const QStringList &texts, 
 
 void ReportPreRenderer::resolvePageTexts()
 {
-    const int pageCount = static_cast<int>(m_pages.size());
+    const int pageCount = m_pagesHandedOver + static_cast<int>(m_pages.size());
     for (const PendingPageText &pending : m_pendingPageTexts) {
         auto &item = std::get<ReportTextItem>(m_pages[pending.page].items[pending.item]);
         item.text = pending.text(m_pages[pending.page].number, pageCount);

@@ -8,6 +8,8 @@
 #include <QStringList>
 #include <QVariantList>
 
+#include <functional>
+
 #include <memory>
 #include <vector>
 
@@ -20,8 +22,13 @@ class ReportBand;
 class ReportPreRenderer
 {
 public:
-    explicit ReportPreRenderer(Report &report);
+    using PageHandler = std::function<void(ReportPage &&page)>;
 
+    // takePage: given each page as soon as nothing on it can change any
+    // more (none waits for the number of pages), or all of them at the end.
+    explicit ReportPreRenderer(Report &report, PageHandler takePage = {});
+
+    // The pages not handed over: all of them, without takePage.
     std::vector<ReportPage> run();
 
     // Height in millimetres that a text needs in a box of the given width.
@@ -39,6 +46,7 @@ private:
     void printRows();
     void startPage();
     void finishPage(bool lastPage);
+    void handOverFinishedPages();
     // Header-like bands are placed where the cursor stands, never breaking.
     void printFixedBand(ReportBand &band);
     // Body bands break to a new page when they do not fit; the band that
@@ -66,7 +74,10 @@ private:
     const FontInUse &fontInUse(const ReportFont &font);
 
     Report &m_report;
+    PageHandler m_takePage;
+    // The pages not yet handed over, the last one being laid out.
     std::vector<ReportPage> m_pages;
+    int m_pagesHandedOver = 0;
     std::vector<PendingPageText> m_pendingPageTexts;
     std::vector<FontInUse> m_fonts;
     // What each label printed last, to share its text when it repeats.

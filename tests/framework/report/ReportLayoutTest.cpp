@@ -376,3 +376,35 @@ TEST(ReportLayout, ValuesWithoutFormatterPrintInThePolishWay)
     ReportLabel label(QStringLiteral("l"), QRectF(0, 0, 10, 5), QStringLiteral("Linia 1\r\nLinia 2"));
     EXPECT_EQ(label.currentText(), QStringLiteral("Linia 1\nLinia 2"));
 }
+
+TEST(ReportLayout, PagesAreHandedOverWhenDoneUnlessTheyWaitForTheNumberOfPages)
+{
+    CarrierInvoicesReport sample(sampleInvoices(3, 30));
+    Report &report = sample.report();
+    const QString laidOutWhole = dumpPages(report.prepare());
+    std::vector<ReportPage> taken;
+    std::vector<int> layingOut;
+    const auto takePage = [&](ReportPage &&page) {
+        layingOut.push_back(report.pageNumber());
+        taken.push_back(std::move(page));
+    };
+
+    // "Strona N z M" keeps every page until the last one is laid out.
+    report.prepare(takePage);
+    EXPECT_TRUE(report.pages().empty());
+    EXPECT_EQ(dumpPages(taken), laidOutWhole);
+    EXPECT_EQ(layingOut, std::vector<int>({3, 3, 3}));
+
+    // Without the number of pages, each page goes before the next starts.
+    report.band(QStringLiteral("QRBandFooter"))
+        .label(QStringLiteral("lblStrona"))
+        .setPageText({})
+        .setValue([&report] { return QStringLiteral("Strona %1").arg(report.pageNumber()); });
+    const QString numberedOnly = dumpPages(report.prepare());
+    taken.clear();
+    layingOut.clear();
+    report.prepare(takePage);
+    EXPECT_EQ(dumpPages(taken), numberedOnly);
+    EXPECT_TRUE(numberedOnly.contains(QStringLiteral("Strona 3")));
+    EXPECT_EQ(layingOut, std::vector<int>({1, 2, 3}));
+}
