@@ -1,35 +1,35 @@
 #include "PdfBook.h"
 
-#include "PdfDocument.h"
 #include "Report.h"
 #include "ReportError.h"
 
 #include <QSaveFile>
 
+PdfBook::PdfBook() : m_document(QString())
+{
+}
+
 void PdfBook::add(Report &report)
 {
-    // The title is the report's own once its data has been read.
-    report.prepare();
-    m_sections.push_back({report.title(), report.pageSetup(), report.takePages()});
+    const bool first = m_reports++ == 0;
+    const QPageLayout layout = report.pageSetup().pageLayout();
+    report.prepare([&](ReportPage &&page) {
+        // The title is the report's own once its data has been read, which
+        // is before its first page is done.
+        if (first && m_document.pageCount() == 0)
+            m_document.setTitle(report.title());
+        m_document.takePage(std::move(page), layout);
+    });
+    if (first && m_document.pageCount() == 0)
+        m_document.setTitle(report.title());
 }
 
-int PdfBook::pageCount() const
+void PdfBook::write(QIODevice &device)
 {
-    int count = 0;
-    for (const Section &section : m_sections)
-        count += static_cast<int>(section.pages.size());
-    return count;
+    m_document.write(device);
 }
 
-void PdfBook::write(QIODevice &device) const
-{
-    PdfDocument document(m_sections.empty() ? QString() : m_sections.front().title);
-    for (const Section &section : m_sections)
-        document.addPages(section.pages, section.setup.pageLayout());
-    document.write(device);
-}
-
-void PdfBook::save(const QString &path) const
+void PdfBook::save(const QString &path)
 {
     QSaveFile file(path);
     const auto failed = [&] {

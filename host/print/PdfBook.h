@@ -1,40 +1,36 @@
 #pragma once
 
-#include "ReportPage.h"
-#include "ReportPageSetup.h"
+#include "PdfDocument.h"
 
 #include <QString>
-
-#include <vector>
 
 class QIODevice;
 class Report;
 
 // Several reports laid out one after the other into one PDF document, each
 // page on its own report's sheet (an upright invoice followed by its lying
-// attachment). Nothing is written until every report has been laid out.
+// attachment). Nothing is written until every report has been laid out, but
+// the pages of a long report are painted while the rest of it is laid out.
 class PdfBook
 {
 public:
-    // Lays the report out and keeps its pages; errors of its data propagate.
+    PdfBook();
+
+    // Lays the report out; a long one's pages are painted as they come.
+    // Errors of its data propagate.
     void add(Report &report);
 
-    int pageCount() const;
+    int pageCount() const { return m_document.pageCount(); }
 
     // The document takes the first report's title. Throws ReportError when
     // the device will not take it.
-    void write(QIODevice &device) const;
+    void write(QIODevice &device);
     // Written beside the file and renamed over it only when complete, so a
     // failure leaves the file as it was, or not there at all. Throws
     // ReportError.
-    void save(const QString &path) const;
+    void save(const QString &path);
 
 private:
-    struct Section
-    {
-        QString title;
-        ReportPageSetup setup;
-        std::vector<ReportPage> pages;
-    };
-    std::vector<Section> m_sections;
+    PdfDocument m_document;
+    int m_reports = 0;
 };

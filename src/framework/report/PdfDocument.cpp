@@ -9,10 +9,9 @@
 #include <QPainter>
 #include <QPdfWriter>
 #include <QThread>
+#include <QThreadPool>
 
 #include <algorithm>
-#include <future>
-#include <optional>
 
 namespace {
 
@@ -20,34 +19,51 @@ constexpr double MmPerInch = 25.4;
 // Fine enough for hairlines, small enough to keep files quick to write.
 constexpr int Resolution = 600;
 
-size_t end(const std::vector<size_t> &starts, size_t part, size_t sheets)
-{
-    return part + 1 < starts.size() ? starts[part + 1] : sheets;
-}
-
 } // namespace
 
 PdfDocument::PdfDocument(const QString &title)
-    : m_title(title), m_parts(QThread::idealThreadCount())
+    : m_title(title), m_maximumParts(QThread::idealThreadCount()),
+      m_threads(std::make_unique<QThreadPool>())
 {
+    m_threads->setMaxThreadCount(m_maximumParts);
+}
+
+PdfDocument::~PdfDocument()
+{
+    m_threads->waitForDone();
 }
 
 void PdfDocument::addPages(const std::vector<ReportPage> &pages, const QPageLayout &layout)
 {
     for (const ReportPage &page : pages)
-        m_sheets.push_back({&page, layout});
+        m_sheets.push_back({&page, layout, nullptr});
+    m_pageCount += static_cast<int>(pages.size());
+}
+
+void PdfDocument::takePage(ReportPage &&page, const QPageLayout &layout)
+{
+    auto owned = std::make_unique<const ReportPage>(std::move(page));
+    const ReportPage *kept = owned.get();
+    m_sheets.push_back({kept, layout, std::move(owned)});
+    ++m_pageCount;
+    if (m_sheets.size() < static_cast<size_t>(std::max(m_minimumPartPages, 1)))
+        return;
+    Part &part = formPart(m_sheets.size());
+    if (!hasDrawings(part))
+        paintOnThread(part);
 }
 
 void PdfDocument::setParts(int parts, int minimumPartPages)
 {
-    m_parts = parts;
+    m_maximumParts = std::max(parts, 1);
     m_minimumPartPages = minimumPartPages;
+    m_threads->setMaxThreadCount(m_maximumParts);
 }
 
 std::vector<size_t> PdfDocument::partStarts() const
 {
     const size_t parts = std::clamp<size_t>(m_sheets.size() / std::max(m_minimumPartPages, 1), 1,
-                                            std::max(m_parts, 1));
+                                            static_cast<size_t>(m_maximumParts));
     size_t items = 0;
     for (const Sheet &sheet : m_sheets)
         items += sheet.page->items.size() + 1;
@@ -61,76 +77,92 @@ std::vector<size_t> PdfDocument::partStarts() const
     return starts;
 }
 
-bool PdfDocument::hasDrawings(size_t from, size_t to) const
+PdfDocument::Part &PdfDocument::formPart(size_t count)
 {
-    for (size_t index = from; index < to; ++index) {
-        if (!m_sheets[index].page->drawings().empty())
-            return true;
-    }
-    return false;
+    Part &part = m_parts.emplace_back();
+    const auto end = m_sheets.begin() + static_cast<std::ptrdiff_t>(count);
+    part.sheets.assign(std::make_move_iterator(m_sheets.begin()), std::make_move_iterator(end));
+    m_sheets.erase(m_sheets.begin(), end);
+    return part;
 }
 
-void PdfDocument::paint(QIODevice &device, size_t from, size_t to) const
+bool PdfDocument::hasDrawings(const Part &part)
+{
+    return std::any_of(part.sheets.begin(), part.sheets.end(),
+                       [](const Sheet &sheet) { return !sheet.page->drawings().empty(); });
+}
+
+void PdfDocument::paintOnThread(Part &part)
+{
+    part.onThread = true;
+    // A part stays where it is in the deque, and the caller leaves it alone
+    // until every thread is done.
+    m_threads->start([&part, title = m_title] {
+        try {
+            QBuffer buffer(&part.pdf);
+            buffer.open(QIODevice::WriteOnly);
+            paint(buffer, part.sheets, title);
+        } catch (...) {
+            part.failure = std::current_exception();
+        }
+        // A long report is not held longer than it takes to paint it.
+        part.sheets.clear();
+    });
+}
+
+void PdfDocument::paint(QIODevice &device, const std::vector<Sheet> &sheets,
+                        const QString &title)
 {
     QPdfWriter writer(&device);
     writer.setResolution(Resolution);
-    writer.setTitle(m_title);
+    writer.setTitle(title);
     writer.setCreator(QStringLiteral("Haulix Zlecenia"));
     QPainter painter;
     ReportTextCache texts;
-    for (size_t index = from; index < to; ++index) {
+    for (const Sheet &sheet : sheets) {
         // The sheet of the next page is set before it is started.
-        writer.setPageLayout(m_sheets[index].layout);
-        if (index == from) {
+        writer.setPageLayout(sheet.layout);
+        if (!painter.isActive()) {
             if (!painter.begin(&writer))
                 throw ReportError(QStringLiteral("Nie można rozpocząć zapisu pliku PDF."));
         } else if (!writer.newPage()) {
             throw ReportError(QStringLiteral("Nie można rozpocząć nowej strony wydruku."));
         }
-        ReportPainter::paintPage(painter, *m_sheets[index].page,
-                                 writer.logicalDpiX() / MmPerInch, &texts);
+        ReportPainter::paintPage(painter, *sheet.page, writer.logicalDpiX() / MmPerInch, &texts);
     }
     if (painter.isActive())
         painter.end();
 }
 
-void PdfDocument::write(QIODevice &device) const
+void PdfDocument::write(QIODevice &device)
 {
-    const std::vector<size_t> starts = partStarts();
-    if (starts.size() == 1) {
-        paint(device, 0, m_sheets.size());
+    std::vector<size_t> starts = partStarts();
+    if (m_parts.empty() && starts.size() == 1) {
+        paint(device, m_sheets, m_title);
         return;
     }
-    // Drawings go through widgets, which live on the GUI thread: the part
-    // that has them is painted here, the others on threads of their own.
-    std::optional<size_t> drawingPart;
-    for (size_t part = 0; part < starts.size(); ++part) {
-        if (!hasDrawings(starts[part], end(starts, part, m_sheets.size())))
-            continue;
-        if (drawingPart) {
-            paint(device, 0, m_sheets.size());
-            return;
-        }
-        drawingPart = part;
+    if (!m_sheets.empty()) {
+        starts.push_back(m_sheets.size());
+        for (size_t part = 1; part < starts.size(); ++part)
+            formPart(starts[part] - starts[part - 1]);
     }
-    const size_t here = drawingPart.value_or(0);
-    std::vector<QByteArray> parts(starts.size());
-    const auto paintPart = [&](size_t part) {
-        QBuffer buffer(&parts[part]);
-        buffer.open(QIODevice::WriteOnly);
-        paint(buffer, starts[part], end(starts, part, m_sheets.size()));
-    };
-    {
-        // A future of std::async waits for its thread when destroyed, so an
-        // exception here still leaves no thread painting into parts.
-        std::vector<std::future<void>> later;
-        for (size_t part = 0; part < starts.size(); ++part) {
-            if (part != here)
-                later.push_back(std::async(std::launch::async, paintPart, part));
+    for (Part &part : m_parts) {
+        if (!part.onThread && !hasDrawings(part))
+            paintOnThread(part);
+    }
+    for (Part &part : m_parts) {
+        if (!part.onThread) {
+            QBuffer buffer(&part.pdf);
+            buffer.open(QIODevice::WriteOnly);
+            paint(buffer, part.sheets, m_title);
         }
-        paintPart(here);
-        for (std::future<void> &part : later)
-            part.get();
+    }
+    m_threads->waitForDone();
+    std::vector<QByteArray> parts;
+    for (const Part &part : m_parts) {
+        if (part.failure)
+            std::rethrow_exception(part.failure);
+        parts.push_back(part.pdf);
     }
     PdfJoin::join(parts, device);
 }

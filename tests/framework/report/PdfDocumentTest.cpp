@@ -24,12 +24,20 @@
 
 namespace {
 
-QString written(const PdfDocument &document, const QString &path)
+QString written(PdfDocument &document, const QString &path)
 {
     QFile file(path);
     EXPECT_TRUE(file.open(QIODevice::WriteOnly));
     document.write(file);
     return path;
+}
+
+// Pages as a report lays them out when they are painted meanwhile.
+void handOver(PdfDocument &document, const std::vector<ReportPage> &pages,
+              const QPageLayout &layout)
+{
+    for (const ReportPage &page : pages)
+        document.takePage(ReportPage(page), layout);
 }
 
 // What qpdf finds wrong with the file's structure: the cross-reference
@@ -108,15 +116,29 @@ TEST(PdfDocument, PartsPaintedApartJoinIntoTheSameDocument)
     const int pages = int(first.size() + second.size());
     ASSERT_GE(pages, 6);
 
-    const auto document = [&](int parts) {
-        PdfDocument result(QStringLiteral("Faktury przewoźników"));
-        result.addPages(first, upright.report().pageSetup().pageLayout());
-        result.addPages(second, lying.report().pageSetup().pageLayout());
-        result.setParts(parts, 1);
-        return result;
+    const QPageLayout uprightLayout = upright.report().pageSetup().pageLayout();
+    const QPageLayout lyingLayout = lying.report().pageSetup().pageLayout();
+    const auto write = [&](int parts, int partPages, bool whileLaidOut, const QString &name) {
+        PdfDocument document(QStringLiteral("Faktury przewoźników"));
+        document.setParts(parts, partPages);
+        if (whileLaidOut) {
+            handOver(document, first, uprightLayout);
+            handOver(document, second, lyingLayout);
+        } else {
+            document.addPages(first, uprightLayout);
+            document.addPages(second, lyingLayout);
+        }
+        EXPECT_EQ(document.pageCount(), pages);
+        return written(document, dir.filePath(name));
     };
-    const QString whole = written(document(1), dir.filePath(QStringLiteral("cały.pdf")));
-    const QString joined = written(document(3), dir.filePath(QStringLiteral("z-części.pdf")));
+    const QString whole = write(1, 1000, false, QStringLiteral("cały.pdf"));
+    const QString joined = write(3, 1, false, QStringLiteral("z-części.pdf"));
+    // Parts of two pages painted as they come, and the rest in one.
+    const QString meanwhile = write(2, 2, true, QStringLiteral("w-trakcie.pdf"));
+    EXPECT_EQ(structureErrors(meanwhile), QString());
+    EXPECT_EQ(Poppler::text(meanwhile), Poppler::text(whole));
+    EXPECT_EQ(Poppler::info(meanwhile, QStringLiteral("Title")),
+              QStringLiteral("Faktury przewoźników"));
 
     EXPECT_EQ(structureErrors(joined), QString());
     EXPECT_EQ(Poppler::info(joined, QStringLiteral("Pages")), QString::number(pages));
@@ -140,7 +162,7 @@ TEST(PdfDocument, PartsPaintedApartJoinIntoTheSameDocument)
         << subsets.join(u' ').toStdString();
 }
 
-TEST(PdfDocument, DrawingsArePaintedOnTheCallingThreadOrTheDocumentIsNotSplit)
+TEST(PdfDocument, DrawingsArePaintedOnTheCallingThread)
 {
     CarrierInvoicesReport sample(sampleInvoices(4, 40));
     std::vector<ReportPage> pages = sample.report().prepare();
@@ -149,25 +171,31 @@ TEST(PdfDocument, DrawingsArePaintedOnTheCallingThreadOrTheDocumentIsNotSplit)
     std::atomic<QThread *> firstPage = nullptr;
     pages.back().items.push_back(ReportDrawingItem{QRectF(10, 10, 50, 30),
                                                    std::make_shared<ThreadOfPainting>(lastPage)});
-    const auto write = [&] {
+    const auto write = [&](bool whileLaidOut) {
         PdfDocument document(QStringLiteral("Wykres"));
-        document.addPages(pages, sample.report().pageSetup().pageLayout());
         document.setParts(2, 1);
+        if (whileLaidOut)
+            handOver(document, pages, sample.report().pageSetup().pageLayout());
+        else
+            document.addPages(pages, sample.report().pageSetup().pageLayout());
         QByteArray bytes;
         QBuffer buffer(&bytes);
         buffer.open(QIODevice::WriteOnly);
         document.write(buffer);
         return bytes;
     };
-    EXPECT_TRUE(write().startsWith("%PDF"));
+    EXPECT_TRUE(write(false).startsWith("%PDF"));
     EXPECT_EQ(lastPage.load(), QThread::currentThread());
 
     pages.front().items.push_back(ReportDrawingItem{
         QRectF(10, 10, 50, 30), std::make_shared<ThreadOfPainting>(firstPage)});
-    lastPage = nullptr;
-    EXPECT_TRUE(write().startsWith("%PDF"));
-    EXPECT_EQ(firstPage.load(), QThread::currentThread());
-    EXPECT_EQ(lastPage.load(), QThread::currentThread());
+    for (const bool whileLaidOut : {false, true}) {
+        firstPage = nullptr;
+        lastPage = nullptr;
+        EXPECT_TRUE(write(whileLaidOut).startsWith("%PDF"));
+        EXPECT_EQ(firstPage.load(), QThread::currentThread());
+        EXPECT_EQ(lastPage.load(), QThread::currentThread());
+    }
 }
 
 TEST(PdfJoin, RefusesWhatQPdfWriterDidNotWrite)
