@@ -198,8 +198,10 @@ void TfrmRepWspolnicy::buildFooter()
 {
     ReportBand &band = m_report.addBand(BandType::PageFooter, QStringLiteral("QRBandFooter"), 7);
     band.addLabel(QStringLiteral("QRSysData"), QRectF(Width - 40, 2, 40, Line))
-        .setPageText([](int page, int) -> QString {
-            return QStringLiteral("Strona ") + QString::number(page);
+        .setValue([this]() -> QString {
+            // Without the number of pages, a page is done once it is laid
+            // out, and a long report is written meanwhile.
+            return QStringLiteral("Strona ") + QString::number(m_report.pageNumber());
         })
         .setAlignment(Qt::AlignRight);
 }
