@@ -2,7 +2,8 @@
 // company, each written to PDF by haulix-print in a process of its own, as
 // an office would run it: time and peak resident size per report. Then,
 // side by side in this process, what painting the pages on all cores and
-// drawing texts from kept glyphs bring to the clients statement.
+// drawing texts from kept glyphs bring to the clients statement, and what
+// painting the partners report while it is laid out brings.
 //
 //   haulix-bench-year-reports [--orders N] [--repetitions R]
 //
@@ -13,6 +14,7 @@
 #include "CountOptions.h"
 #include "OffscreenProgram.h"
 #include "PdfBook.h"
+#include "PartnersSelection.h"
 #include "PdfDocument.h"
 #include "PrintJobs.h"
 #include "Report.h"
@@ -20,6 +22,8 @@
 #include "ReportTextCache.h"
 #include "SeededDatabase.h"
 #include "Statement.h"
+#include "Format.h"
+#include "TfrmRepWspolnicy.h"
 #include "TfrmZestawienieKontrahenta.h"
 #include "Transaction.h"
 
@@ -196,6 +200,44 @@ int main(int argc, char **argv)
         }, arguments.repetitions);
         std::printf("  kept glyphs: %.2f x as fast; parts as well: %.2f x\n", laidOut / kept,
                     laidOut / parts);
+
+        // Side by side: the partners report laid out first and painted
+        // then, and painted while it is being laid out.
+        PartnersSelection selection;
+        selection.from = from;
+        selection.to = to;
+        selection.fromText = Format::date(from);
+        selection.toText = Format::date(to);
+        selection.showAll = true;
+        TfrmRepWspolnicy partners(connection);
+        partners.select(selection);
+        Report &partnersReport = partners.QuickRep1();
+        const QPageLayout partnersLayout = partnersReport.pageSetup().pageLayout();
+        const auto inSnapshot = [&](const auto &work) {
+            Transaction transaction(connection);
+            TransactionScope snapshot(transaction);
+            QByteArray bytes;
+            QBuffer buffer(&bytes);
+            buffer.open(QIODevice::WriteOnly);
+            work(buffer);
+        };
+        std::printf("\npartners report, every order, to PDF in memory:\n");
+        const double before = timer.measure(QStringLiteral("  laid out, then painted"), [&] {
+            inSnapshot([&](QBuffer &buffer) {
+                const std::vector<ReportPage> &laidOutPages = partnersReport.prepare();
+                PdfDocument document(partnersReport.title());
+                document.addPages(laidOutPages, partnersLayout);
+                document.write(buffer);
+            });
+        }, arguments.repetitions);
+        const double meanwhile = timer.measure(QStringLiteral("  painted while laid out"), [&] {
+            inSnapshot([&](QBuffer &buffer) {
+                PdfBook book;
+                book.add(partnersReport);
+                book.write(buffer);
+            });
+        }, arguments.repetitions);
+        std::printf("  painted while laid out: %.2f x as fast\n", before / meanwhile);
 
         std::printf("\ngoals (medians of this run):\n");
         for (const Goal &goal : goals) {
