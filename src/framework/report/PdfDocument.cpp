@@ -150,6 +150,8 @@ void PdfDocument::write(QIODevice &device)
         if (!part.onThread && !hasDrawings(part))
             paintOnThread(part);
     }
+    // Drawings go through widgets, which live on the GUI thread: the parts
+    // that have them are painted here.
     for (Part &part : m_parts) {
         if (!part.onThread) {
             QBuffer buffer(&part.pdf);

@@ -68,8 +68,6 @@ private:
     // The first count sheets not yet in a part become one.
     Part &formPart(size_t count);
     static bool hasDrawings(const Part &part);
-    // Drawings go through widgets, which live on the GUI thread: a part that
-    // has them is painted by the caller.
     void paintOnThread(Part &part);
     static void paint(QIODevice &device, const std::vector<Sheet> &sheets, const QString &title);
 
