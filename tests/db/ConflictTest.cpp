@@ -121,6 +121,7 @@ TEST(DbError, TellsTheKindsOfFailureApart)
     } catch (const DbError &error) {
         EXPECT_EQ(error.nativeCode(), -204);
         EXPECT_EQ(error.kind(), DbError::Kind::Other);
+        EXPECT_TRUE(error.message().contains(QStringLiteral("Table unknown"))) << error.what();
     }
 
     Connection nowhere;

