@@ -81,29 +81,6 @@ TEST(Schema, EveryTableObjectFindsItsColumnsInOrderAndType)
     }
 }
 
-TEST(Schema, TablesOfOwnStatementsAndThePartnersViewExist)
-{
-    TestDatabase db;
-    const std::vector<std::pair<QString, QStringList>> tables = {
-        {QStringLiteral("USER_ACCESS"), {"ID_USER", "ID_FORMATKI", "PRIVIL_RUN", "PRIVIL_ADD", "PRIVIL_EDIT", "PRIVIL_DELETE"}},
-        {QStringLiteral("FORMS"), {"ID_FORMATKI", "NAZWA"}},
-        {QStringLiteral("KONFIGURACJA"), {"POLE", "TYP", "VALUE_INT", "VALUE_STRING", "VALUE_FLOAT", "VALUE_DATE"}},
-        {QStringLiteral("DANE_FIRMY"), {"NAZWA", "KOD", "MIEJSCOWOSC", "ADRES", "POBOX", "NIP", "REGON", "KONTAKT1",
-                                        "KONTAKT6", "MIEJSCE_WYSTAWIANIA", "WOJEWODZTWO", "EURONIP_1", "EURONIP_3"}},
-        {QStringLiteral("TABELE_KURSOW"), {"ID_NUM_TAB", "ID_WALUTY", "KURS", "ILOSC"}},
-        {QStringLiteral("ODLEGLOSCI"), {"ID_ODLEGLOSCI", "IDMIASTAOD", "IDMIASTAVIA", "IDMIASTADO", "ODLEGLOSC"}},
-        {QStringLiteral("CENNIKI_KRAJ_KONTRAHENCI"), {"ID_CENNIKI_KRAJ_KONTRAHENCI", "IDKONTRAHENT", "IDGRUPY"}},
-        {QStringLiteral("FILTRY_PRZYCH"), {"ID_FILTRY_PRZYCH", "NR_FILTRA", "OPIS"}},
-        {QStringLiteral("VRAPORT_WSPOLNICY"), {"FAK_DWYST", "KRAJ", "PRZEWOZNIK", "IDFILTR1", "KONTRAHENT", "NUMER",
-                                               "STAWKA_RAZEM", "KOSZTRAZEM", "MIASTOOD", "MIASTODO"}},
-    };
-    for (const auto &[table, columns] : tables) {
-        const QStringList actual = actualColumns(db.connection(), table).first;
-        for (const QString &column : columns)
-            EXPECT_TRUE(actual.contains(column)) << table.toStdString() << "." << column.toStdString();
-    }
-}
-
 TEST(Schema, PartnersViewMarksDomesticRoutes)
 {
     TestDatabase db;

@@ -115,6 +115,14 @@ TEST(TableObjectReuse, SelectWhereBindsDatesNullsAndPolishTextByTheColumnList)
     table.Insert();
     EXPECT_EQ(table.SelectWhere(QStringLiteral("Z_DNIA"), opGreater, QDate(2026, 3, 28)).size(), 1u);
     EXPECT_EQ(table.SelectWhere(QStringLiteral("Z_DNIA"), opLess, 46111.0).size(), 1u);
+    EXPECT_EQ(table.SelectWhere(QStringLiteral("Z_DNIA"), opEqual,
+                                QVariant::fromValue(DateTime::fromDate(QDate(2026, 3, 29))))
+                  .size(),
+              1u);
+    EXPECT_EQ(table.SelectWhere(QStringLiteral("Z_DNIA"), opEqual,
+                                QDateTime(QDate(2026, 3, 29), QTime(0, 0)))
+                  .size(),
+              1u);
     scriptedMessages().expect();
     EXPECT_TRUE(table.SelectWhere(QStringLiteral("Z_DNIA"), opEqual, QVariant()).empty());
     // The second failure of the test.
