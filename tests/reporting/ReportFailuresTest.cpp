@@ -125,9 +125,3 @@ TEST(ReportFailures, OtherExceptionsAreReportedToo)
                              "Szczegóły zapisano w pliku SQLErrors.ini."));
     EXPECT_TRUE(loggedToday(ErrorLog::SqlErrors).front().endsWith(QStringLiteral("brak pamięci")));
 }
-
-TEST(ErrorLog, LineBreaksBecomeBlanks)
-{
-    EXPECT_EQ(ErrorLog::oneLine(QStringLiteral("a\r\nb\nc")), QStringLiteral("a b c"));
-}
-

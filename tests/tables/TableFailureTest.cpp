@@ -75,14 +75,14 @@ TEST(TableFailure, AMultiLineDatabaseMessageIsLoggedOnOneLine)
     db.exec(QStringLiteral("CREATE EXCEPTION ZA_DUZO 'x'"));
     db.exec(QStringLiteral("CREATE TRIGGER MIARY_CHECK FOR MIARY BEFORE INSERT AS BEGIN "
                            "EXCEPTION ZA_DUZO 'Pierwsza linia' || ASCII_CHAR(13) || ASCII_CHAR(10) "
-                           "|| 'druga linia'; END"));
+                           "|| 'druga linia' || ASCII_CHAR(10) || 'trzecia'; END"));
     scriptedMessages().expect();
     TMiaryObj unit(db.connection());
     unit.NAZWA = QStringLiteral("tona");
     unit.Insert();
     const QStringList logged = loggedToday(ErrorLog::HaulixErrors);
     ASSERT_EQ(logged.size(), 1);
-    EXPECT_TRUE(logged.front().contains(QStringLiteral("Pierwsza linia druga linia")))
+    EXPECT_TRUE(logged.front().contains(QStringLiteral("Pierwsza linia druga linia trzecia")))
         << logged.front().toStdString();
     EXPECT_FALSE(logged.front().contains(QLatin1Char('\n')));
 }
