@@ -79,11 +79,3 @@ TEST(ColumnValues, CsvHasAllCaptionsAndPlainNumbers)
                      "00000002;ul.~Długa;1.234,50\r\n"
                      "00000003\r\n"));
 }
-
-TEST(ColumnValues, CsvToAFileThatCannotBeOpened)
-{
-    TListViewModel model;
-    model.addColumn(QStringLiteral("Nr"));
-    EXPECT_EQ(ColumnValues::writeCsv(model, QStringLiteral("/nonexistent/dir/lista.csv")),
-              ColumnValues::WriteResult::OpenFailed);
-}
