@@ -2,7 +2,6 @@
 #include "ScriptedModalRunner.h"
 #include "TBitBtn.h"
 #include "TListView.h"
-#include "TframeListView.h"
 #include "TfrmRODefault.h"
 #include "TfrmWaitPlease.h"
 
@@ -12,7 +11,6 @@
 #include <QComboBox>
 #include <QLabel>
 #include <QLineEdit>
-#include <QMenu>
 #include <QProgressBar>
 #include <QPushButton>
 #include <QSpinBox>
@@ -111,32 +109,25 @@ void showActive(QWidget &form)
 
 } // namespace
 
-TEST(DefaultWindow, DoubledAcceleratorIsReportedOnce)
+TEST(DefaultWindow, DoubledAcceleratorIsReportedOnceUnlessSwitchedOffHiddenOrOnABitButton)
 {
     scriptedMessages().expect(MessageService::Ok);
     auto form = TfrmRODefault::create<SampleEditor>(Flags{});
     ASSERT_EQ(scriptedMessages().shown().size(), 1u);
     EXPECT_EQ(scriptedMessages().shown()[0].text, "Zdublowany shortcut dla litery \"D\"");
+
+    auto unchecked = TfrmRODefault::create<SampleEditor>(Flags{.ignoreShortcuts = true});
+    SampleEditor hidden(Flags{});
+    hidden.btnDrukuj->hide();
+    (void)new TBitBtn(QStringLiteral("&Dalej"), hidden.pnlClient);
+    hidden.ensureCreated();
+    EXPECT_EQ(scriptedMessages().shown().size(), 1u);
 }
 
-TEST(DefaultWindow, AcceleratorCheckCanBeSwitchedOff)
-{
-    auto form = TfrmRODefault::create<SampleEditor>(Flags{.ignoreShortcuts = true});
-    EXPECT_TRUE(scriptedMessages().shown().empty());
-}
-
-TEST(DefaultWindow, BitButtonsAndHiddenButtonsAreNotChecked)
-{
-    SampleEditor form(Flags{});
-    form.btnDrukuj->hide();
-    (void)new TBitBtn(QStringLiteral("&Dalej"), form.pnlClient);
-    form.ensureCreated();
-    EXPECT_TRUE(scriptedMessages().shown().empty());
-}
-
-TEST(DefaultWindow, FieldsWithoutLimitsWarnTheAuthor)
+TEST(DefaultWindow, FieldsWithoutLimitsWarnTheAuthorAFixedListComboNeedsNone)
 {
     SampleEditor form(Flags{.ignoreShortcuts = true});
+    (new QComboBox(form.pnlClient))->setObjectName(QStringLiteral("cbRodzaj"));
     form.edSecond->setMaxLength(32767);
     form.cbMiasto->lineEdit()->setMaxLength(32767);
     auto *spin = new QSpinBox(form.pnlClient);
@@ -153,15 +144,6 @@ TEST(DefaultWindow, FieldsWithoutLimitsWarnTheAuthor)
     EXPECT_EQ(shown[0].icon, MessageService::Icon::Warning);
     EXPECT_EQ(shown[1].text, "Ustal długość ComboBoxa : cbMiasto");
     EXPECT_EQ(shown[2].text, "Ustal max RxSpinEdita : seIlosc");
-}
-
-TEST(DefaultWindow, FixedListComboNeedsNoLength)
-{
-    SampleEditor form(Flags{.ignoreShortcuts = true});
-    auto *fixed = new QComboBox(form.pnlClient);
-    fixed->setObjectName(QStringLiteral("cbRodzaj"));
-    form.ensureCreated();
-    EXPECT_TRUE(scriptedMessages().shown().empty());
 }
 
 TEST(DefaultWindow, EnterMovesToTheNextField)
@@ -198,23 +180,17 @@ TEST(DefaultWindow, EscClosesWithCancelOnlyWhenAllowed)
 TEST(DefaultWindow, ButtonsAndCloseBoxSetTheModalResult)
 {
     auto form = createEditor(Flags{});
-    scriptedModalRunner().expect<SampleEditor>([](SampleEditor &editor) {
-        editor.btnOk->click();
-        return editor.result();
-    });
-    EXPECT_EQ(form->showModal(), TfrmRODefault::mrOk);
-
-    scriptedModalRunner().expect<SampleEditor>([](SampleEditor &editor) {
-        editor.close();
-        return editor.result();
-    });
-    EXPECT_EQ(form->showModal(), TfrmRODefault::mrCancel);
-
-    scriptedModalRunner().expect<SampleEditor>([](SampleEditor &editor) {
-        editor.btnCancel->click();
-        return editor.result();
-    });
-    EXPECT_EQ(form->showModal(), TfrmRODefault::mrCancel);
+    const std::pair<void (*)(SampleEditor &), int> cases[] = {
+        {[](SampleEditor &e) { e.btnOk->click(); }, TfrmRODefault::mrOk},
+        {[](SampleEditor &e) { e.close(); }, TfrmRODefault::mrCancel},
+        {[](SampleEditor &e) { e.btnCancel->click(); }, TfrmRODefault::mrCancel}};
+    for (const auto &[act, result] : cases) {
+        scriptedModalRunner().expect<SampleEditor>([act](SampleEditor &editor) {
+            act(editor);
+            return editor.result();
+        });
+        EXPECT_EQ(form->showModal(), result);
+    }
     EXPECT_TRUE(scriptedModalRunner().allRun());
 }
 
@@ -240,7 +216,7 @@ TEST(DefaultWindow, TypeAheadCompletesAndBackspaceDoesNot)
     EXPECT_EQ(edit->selectedText(), "sno");
 }
 
-TEST(DefaultWindow, HeaderHeightFollowsTheDescription)
+TEST(DefaultWindow, HeaderHeightFollowsTheDescriptionAndTheHeaderCanBeLeftOut)
 {
     auto form = createEditor(Flags{});
     form->show();
@@ -249,15 +225,11 @@ TEST(DefaultWindow, HeaderHeightFollowsTheDescription)
     form->lblHeaderDescription->setText(QStringLiteral("Opis"));
     form->show();
     EXPECT_EQ(form->lblHeader->height(), 20);
-}
 
-TEST(DefaultWindow, FormWithoutHeader)
-{
-    auto form = createEditor(Flags{.showHeader = false});
-    form->show();
-    EXPECT_EQ(form->pnlHeader, nullptr);
-    EXPECT_EQ(form->findChild<QWidget *>(QStringLiteral("pnlHeader")), nullptr);
-    EXPECT_EQ(form->findChild<QLabel *>(QStringLiteral("lblHeader")), nullptr);
+    auto bare = createEditor(Flags{.showHeader = false});
+    bare->show();
+    EXPECT_EQ(bare->pnlHeader, nullptr);
+    EXPECT_EQ(bare->findChild<QLabel *>(QStringLiteral("lblHeader")), nullptr);
 }
 
 TEST(DefaultWindow, FrameMessagesRunTheFormsOperations)
@@ -272,41 +244,18 @@ TEST(DefaultWindow, FrameMessagesRunTheFormsOperations)
     EXPECT_EQ(form->updates, 1);
 }
 
-TEST(DefaultWindow, AutomaticUpdateLoadsDuringCreation)
+TEST(DefaultWindow, AutomaticUpdateLoadsDuringCreationAndPlainListsSortByAClickedColumn)
 {
-    auto form = createEditor(Flags{.autoUpdate = true});
+    auto form = createEditor(Flags{.sortListView = true, .autoUpdate = true});
     EXPECT_EQ(form->loads, 1);
     EXPECT_EQ(form->lvLista->itemCount(), 3);
     EXPECT_EQ(form->lvLista->tag(), -1);
-}
-
-TEST(DefaultWindow, PlainListsSortByAClickedColumnWhenAsked)
-{
-    auto form = createEditor(Flags{.sortListView = true, .autoUpdate = true});
     form->show();
     QTest::mouseClick(form->lvLista->header()->viewport(), Qt::LeftButton, {},
                       QPoint(form->lvLista->header()->sectionPosition(0) + 5, 5));
     EXPECT_EQ(form->lvLista->tag(), 0);
     EXPECT_EQ(form->lvLista->caption(0), "Alfa");
     EXPECT_EQ(form->lvLista->caption(2), "gamma");
-}
-
-TEST(DefaultWindow, FramesBuildTheirMenusWhenTheFormIsFinished)
-{
-    SampleEditor form(Flags{.ignoreShortcuts = true});
-    auto *frame = new TframeListView(&form, form.pnlClient, QStringLiteral("frameListView1"));
-    frame->lvMain->addColumn(QStringLiteral("Nr"));
-    frame->lvMain->addColumn(QStringLiteral("Klient"));
-    form.ensureCreated();
-    QMenu *sortMenu = nullptr;
-    for (QAction *action : frame->pmMain->actions()) {
-        if (action->text() == "Sortuj")
-            sortMenu = action->menu();
-    }
-    ASSERT_NE(sortMenu, nullptr);
-    ASSERT_EQ(sortMenu->actions().size(), 3);
-    EXPECT_EQ(sortMenu->actions()[0]->text(), "[Brak]");
-    EXPECT_EQ(sortMenu->actions()[2]->text(), "Klient");
 }
 
 TEST(WaitPlease, OneWindowWhileARoutineRuns)
