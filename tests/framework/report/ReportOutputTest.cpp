@@ -23,7 +23,7 @@ const QString pangram = QStringLiteral("Zażółć gęślą jaźń, ĄĘŁŃÓŚ
 
 } // namespace
 
-TEST(ReportOutput, HeadlessPdfHoldsThePolishTextsOnA4Pages)
+TEST(ReportOutput, HeadlessPdfHoldsThePolishTextsOnA4PagesUprightOrLying)
 {
     QTemporaryDir dir;
     CarrierInvoicesReport sample(sampleInvoices(3, 30));
@@ -45,16 +45,11 @@ TEST(ReportOutput, HeadlessPdfHoldsThePolishTextsOnA4Pages)
     EXPECT_TRUE(text.contains(QStringLiteral("Strona 3 z 3")));
     // The third page starts after the second form feed.
     EXPECT_TRUE(text.section(QLatin1Char('\f'), 2, 2).contains(QStringLiteral("Ogólem :")));
-}
 
-TEST(ReportOutput, LandscapeReportGivesLandscapeSheets)
-{
-    QTemporaryDir dir;
-    CarrierInvoicesReport sample(sampleInvoices(1, 2));
     sample.report().setOrientation(QPageLayout::Landscape);
-    const QString path = dir.filePath(QStringLiteral("poziomo.pdf"));
-    ASSERT_TRUE(sample.report().exportPdf(path));
-    EXPECT_EQ(Poppler::info(path, QStringLiteral("Page size")),
+    const QString lying = dir.filePath(QStringLiteral("poziomo.pdf"));
+    ASSERT_TRUE(sample.report().exportPdf(lying));
+    EXPECT_EQ(Poppler::info(lying, QStringLiteral("Page size")),
               QStringLiteral("842 x 595 pts (A4)"));
 }
 
