@@ -29,7 +29,7 @@ TEST(ColumnValues, NumericTest)
     EXPECT_FALSE(ColumnValues::isNumeric(QStringLiteral("12 zł")));
 }
 
-TEST(ColumnValues, SummaryOfAColumn)
+TEST(ColumnValues, SummaryOfAColumnWithAndWithoutNumbers)
 {
     TListViewModel model;
     model.addColumn(QStringLiteral("Nr"));
@@ -47,16 +47,10 @@ TEST(ColumnValues, SummaryOfAColumn)
                                      "Wartość minimalna: 10,00\n"
                                      "Wartość maksymalna: 1~234,50\n"
                                      "Wartości nie-numeryczne: 3"));
-}
 
-TEST(ColumnValues, SummaryWithoutNumbers)
-{
-    TListViewModel model;
-    model.addColumn(QStringLiteral("Miasto"));
-    model.addRow({QStringLiteral("Kraków")});
-    const ColumnValues::Summary summary = ColumnValues::summarize(model, 0);
-    EXPECT_EQ(summary.caption(), "Sumowanych pozycji: 0 z 1");
-    EXPECT_EQ(summary.text(), "Kolumna nie zawierała wartości liczbowych.");
+    const ColumnValues::Summary texts = ColumnValues::summarize(model, 0);
+    EXPECT_EQ(texts.caption(), "Sumowanych pozycji: 0 z 5");
+    EXPECT_EQ(texts.text(), "Kolumna nie zawierała wartości liczbowych.");
 }
 
 TEST(ColumnValues, CsvHasAllCaptionsAndPlainNumbers)
