@@ -232,18 +232,6 @@ TEST(DefaultWindow, HeaderHeightFollowsTheDescriptionAndTheHeaderCanBeLeftOut)
     EXPECT_EQ(bare->findChild<QLabel *>(QStringLiteral("lblHeader")), nullptr);
 }
 
-TEST(DefaultWindow, FrameMessagesRunTheFormsOperations)
-{
-    auto form = createEditor(Flags{});
-    EXPECT_EQ(form->loads, 0);
-    QEvent reload(static_cast<QEvent::Type>(1025));
-    QCoreApplication::sendEvent(form.get(), &reload);
-    EXPECT_EQ(form->loads, 1);
-    QEvent selection(static_cast<QEvent::Type>(1026));
-    QCoreApplication::sendEvent(form.get(), &selection);
-    EXPECT_EQ(form->updates, 1);
-}
-
 TEST(DefaultWindow, AutomaticUpdateLoadsDuringCreationAndPlainListsSortByAClickedColumn)
 {
     auto form = createEditor(Flags{.sortListView = true, .autoUpdate = true});
