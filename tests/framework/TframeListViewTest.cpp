@@ -155,7 +155,7 @@ TEST_F(LVFrame, EqualNeedsTheWholeTextInTheFirstColumnOnlyElsewhereItMeansContai
     EXPECT_EQ(frame->rgSearchOptions->itemIndex(), TframeListView::Contains);
 }
 
-TEST_F(LVFrame, CtrlDigitSkipsHiddenColumns)
+TEST_F(LVFrame, CtrlDigitSkipsHiddenColumnsAndTheSearchColumnIsDrawnBold)
 {
     list->setColumnWidth(1, 0);
     QTest::keyClick(frame->edSearch, Qt::Key_2, Qt::ControlModifier);
@@ -166,10 +166,7 @@ TEST_F(LVFrame, CtrlDigitSkipsHiddenColumns)
     // Four columns are visible: Ctrl+5 means nothing.
     QTest::keyClick(frame->edSearch, Qt::Key_5, Qt::ControlModifier);
     EXPECT_EQ(TframeListView::searchColumn(), 0);
-}
 
-TEST_F(LVFrame, SearchColumnIsDrawnBold)
-{
     TframeListView::setSearchColumn(2);
     const QModelIndex bold = list->items().index(0, 2);
     const QModelIndex plain = list->items().index(0, 1);

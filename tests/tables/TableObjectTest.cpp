@@ -163,15 +163,6 @@ TEST(TableObject, EmptyTextIsStoredEmptyAndSelectDistinctSkipsIt)
     EXPECT_EQ(codes, (QStringList{QStringLiteral("00-950"), QStringLiteral("31-000")}));
 }
 
-TEST(TableObject, SelectByIdOfAMissingKeyGivesKeyZero)
-{
-    TestDatabase db;
-    const TUsersObj user = TUsersObj(db.connection()).SelectById(42);
-    EXPECT_EQ(user.ID_USER, 0);
-    EXPECT_TRUE(user.LOGIN.isEmpty());
-    EXPECT_TRUE(user.PASSCHANGED.isNull());
-}
-
 TEST(TableObject, SelectClauseAndSelectOneTakeTheCallersTail)
 {
     TestDatabase db;
@@ -186,7 +177,7 @@ TEST(TableObject, SelectClauseAndSelectOneTakeTheCallersTail)
     EXPECT_EQ(goods.SelectOne(QStringLiteral("WHERE ID_ZLECENIA=6")).NAZWA, QStringLiteral("Paleta 6"));
 }
 
-TEST(TableObject, UpdateAndDeleteGoByTheKey)
+TEST(TableObject, UpdateAndDeleteGoByTheKeyAndADeletedKeyReadsAsZero)
 {
     TestDatabase db;
     TUsersObj user(db.connection());
@@ -197,11 +188,19 @@ TEST(TableObject, UpdateAndDeleteGoByTheKey)
     auto users = user.SelectAll(QStringLiteral("ID_USER"));
     users.front().NAZWISKO = QStringLiteral("Nowak");
     users.front().Update();
+    const int deleted = users.back().ID_USER;
+    ASSERT_NE(deleted, 0);
     users.back().Delete();
     const auto left = user.SelectAll();
     ASSERT_EQ(left.size(), 1u);
     EXPECT_EQ(left.front().LOGIN, QStringLiteral("anowak"));
     EXPECT_EQ(left.front().NAZWISKO, QStringLiteral("Nowak"));
+
+    // A missing key reads as an empty record with key zero.
+    const TUsersObj gone = user.SelectById(deleted);
+    EXPECT_EQ(gone.ID_USER, 0);
+    EXPECT_TRUE(gone.LOGIN.isEmpty());
+    EXPECT_TRUE(gone.PASSCHANGED.isNull());
 }
 
 TEST(TableObject, AStatementOfItsOwnBindsNamedColumnsAndReadsRowsAsTheSelectsDo)
