@@ -75,7 +75,7 @@ TEST(ReportOutput, PreviewAndPrintGoThroughTheInstalledOutput)
     ASSERT_TRUE(sample.report().print());
 
     ASSERT_EQ(files->deliveries().size(), 2u);
-    const PdfFileReportOutput::Delivery &preview = files->deliveries()[0];
+    const PdfFileReportOutput::Delivery preview = files->deliveries()[0];
     EXPECT_EQ(preview.kind, PdfFileReportOutput::Kind::Preview);
     EXPECT_EQ(preview.title, QStringLiteral("Faktury przewoźników"));
     EXPECT_EQ(preview.pageCount, 3);
