@@ -107,40 +107,6 @@ TEST_F(Goods, CorrectingAndDeletingNeedASelectedRowAndDeletingAsksNothing)
     EXPECT_EQ(form->frameListView1->lvMain->itemCount(), 1);
 }
 
-TEST_F(Goods, AddingOpensAnEmptyEditorForTheOrderAndCutsTheNameTo35)
-{
-    auto form = TfrmRODefault::create<TfrmTowaryNaZleceniu>(nullptr, OrderKey);
-    const QString longName = QStringLiteral("Konstrukcje stalowe ocynkowane ogniowo 1");
-    ASSERT_EQ(longName.size(), 40);
-    scriptedModalRunner().expect<GoodsEditor>([&](GoodsEditor &e) {
-        EXPECT_EQ(e.windowTitle(), "Wprowadzanie danych");
-        EXPECT_EQ(e.lblHeader->text(), "Wprowadzanie danych");
-        EXPECT_TRUE(e.cbNazwa->currentText().isEmpty());
-        EXPECT_EQ(e.cbJM->currentIndex(), 0);
-        // Names of earlier goods are offered, in Polish order.
-        EXPECT_EQ(e.cbNazwa->itemText(0), "Cement");
-        EXPECT_EQ(e.cbNazwa->itemText(1), "Jabłka");
-        EXPECT_EQ(e.cbNazwa->itemText(2), "Węgiel");
-        e.cbNazwa->setEditText(longName);
-        e.edADR->setText(QStringLiteral("UN 3077"));
-        e.edIloscDekl->setValue(12.3456);
-        e.edIloscRzecz->setValue(12.0);
-        e.cbJM->setCurrentIndex(e.cbJM->findData(tonne));
-        e.btnOk->click();
-        return e.result();
-    });
-    form->acAdd->trigger();
-    EXPECT_TRUE(scriptedModalRunner().allRun());
-    const TTowaryObj added = goodsNamed(longName.left(35));
-    EXPECT_EQ(added.NAZWA.size(), 35);
-    EXPECT_EQ(added.ID_ZLECENIA, OrderKey);
-    EXPECT_EQ(added.NUMER1, "UN 3077");
-    EXPECT_DOUBLE_EQ(added.ILOSC_DEKLAROWANA, 12.3456);
-    EXPECT_DOUBLE_EQ(added.ILOSC, 12.0);
-    EXPECT_EQ(added.ID_JEDNOSTKI_MIARY, tonne);
-    EXPECT_EQ(form->frameListView1->lvMain->itemCount(), 3);
-}
-
 TEST_F(Goods, CorrectingLoadsTheRowAndUpdatesOnlyTheEditedColumns)
 {
     auto form = TfrmRODefault::create<TfrmTowaryNaZleceniu>(nullptr, OrderKey);
@@ -178,28 +144,41 @@ TEST_F(Goods, AUnitThatIsGoneShowsTheFirstUnitAndCancelWritesNothing)
     EXPECT_EQ(goodsNamed(QStringLiteral("Cement")).NUMER1, "UN 1202");
 }
 
-TEST_F(Goods, AfterAddingTheDispatcherTypesIntoTheFirstFieldAndEnterSavesNoEmptyRow)
+TEST_F(Goods, AddingIsTypedIntoAnEmptyEditorWhereEnterSavesNoEmptyRowAndTheNameStopsAt35)
 {
     auto form = TfrmRODefault::create<TfrmTowaryNaZleceniu>(nullptr, OrderKey);
     Typing::activate(form.get());
+    const QString longName = QStringLiteral("Konstrukcje stalowe ocynkowane ogniowo 1");
+    int unit = 0;
     scriptedModalRunner().expect<GoodsEditor>([&](GoodsEditor &e) {
         Typing::activate(&e);
+        // Names of earlier goods are offered, in Polish order.
+        EXPECT_EQ(e.cbNazwa->itemText(0), "Cement");
+        EXPECT_EQ(e.cbNazwa->itemText(1), "Jabłka");
+        EXPECT_EQ(e.cbNazwa->itemText(2), "Węgiel");
         EXPECT_EQ(QApplication::focusWidget(), e.cbNazwa);
         Typing::press(Qt::Key_Return);
         EXPECT_TRUE(e.isVisible());
         EXPECT_EQ(QApplication::focusWidget(), e.edADR);
         Typing::press(Qt::Key_Backtab, Qt::ShiftModifier);
-        Typing::keys(QStringLiteral("Mąka\nUN 1830\nworki\n12,5\n3"));
+        Typing::keys(longName + QStringLiteral("\nUN 3077\nworki\n12,3456\n3"));
         EXPECT_EQ(QApplication::focusWidget(), e.edIloscRzecz);
+        Typing::press(Qt::Key_Tab);
+        Typing::press(Qt::Key_Down);
+        unit = e.cbJM->currentData().toInt();
+        EXPECT_NE(unit, e.cbJM->itemData(0).toInt());
         Typing::accelerator(Qt::Key_Z);
         return e.result();
     });
     Typing::click(form->frameListView1->BitBtn5);   // "Dodaj"
     EXPECT_TRUE(scriptedModalRunner().allRun());
     EXPECT_EQ(db.count(QStringLiteral("TOWARY")), 4);
-    const TTowaryObj added = goodsNamed(QStringLiteral("Mąka"));
-    EXPECT_EQ(added.NUMER1, "UN 1830");
+    EXPECT_EQ(form->frameListView1->lvMain->itemCount(), 3);
+    const TTowaryObj added = goodsNamed(longName.left(35));
+    EXPECT_EQ(added.ID_ZLECENIA, OrderKey);
+    EXPECT_EQ(added.NUMER1, "UN 3077");
     EXPECT_EQ(added.NUMER2, "worki");
-    EXPECT_DOUBLE_EQ(added.ILOSC_DEKLAROWANA, 12.5);
+    EXPECT_DOUBLE_EQ(added.ILOSC_DEKLAROWANA, 12.3456);
     EXPECT_DOUBLE_EQ(added.ILOSC, 3.0);
+    EXPECT_EQ(added.ID_JEDNOSTKI_MIARY, unit);
 }
