@@ -116,10 +116,11 @@ TEST_F(RegisterDialogs, ACancelledAddChangesNeitherTheOrdersNorTheList)
     EXPECT_EQ(selectedKey(*form), key);
 }
 
-TEST_F(RegisterDialogs, EditOpensTheSelectedOrderAndShowsItAgainAfterOk)
+TEST_F(RegisterDialogs, EditOpensTheSelectedOrderAndShowsItAgainAfterOkAsADoubleClickDoes)
 {
     const int key = addOrder([](TZlecenia_przychObj &o) { o.POJAZD = QStringLiteral("EL 1"); });
     const auto form = openRegister();
+    form->show();
     select(*form, key);
     ASSERT_TRUE(form->frameListView1->BitBtn4->isVisibleTo(form.get()));
     scriptedModalRunner().expect<Editor>([&](Editor &editor) {
@@ -137,35 +138,25 @@ TEST_F(RegisterDialogs, EditOpensTheSelectedOrderAndShowsItAgainAfterOk)
     EXPECT_EQ(order(key).POJAZD, "EL 2");
     EXPECT_EQ(cell(*form, key, Col::NrRej), "EL 2");
     EXPECT_EQ(selectedKey(*form), key);
-}
 
-TEST_F(RegisterDialogs, ADoubleClickOnARowEditsThatOrder)
-{
-    const int key = addOrder();
-    const auto form = openRegister();
-    form->show();
     TListView *list = form->frameListView1->lvMain;
-    select(*form, key);
     const QModelIndex index = list->model()->index(list->findByKey(key), 0);
-    const QPoint at = list->visualRect(index).center();
     int opened = 0;
     scriptedModalRunner().expect<Editor>([&](Editor &editor) {
         opened = editor.orderKey();
         EXPECT_EQ(editor.mode(), Editor::Edit);
         return 2;
     });
-
-    QTest::mouseDClick(list->viewport(), Qt::LeftButton, {}, at);
-
+    QTest::mouseDClick(list->viewport(), Qt::LeftButton, {}, list->visualRect(index).center());
     EXPECT_TRUE(scriptedModalRunner().allRun());
     EXPECT_EQ(opened, key);
 }
 
-TEST_F(RegisterDialogs, WithoutTheRightsAddAndEditAreRefusedBeforeAnythingOpens)
+TEST_F(RegisterDialogs, AddAndEditNeedTheirRightsNotTheRightToDelete)
 {
     const int key = addOrder();
     setUser(3);   // may only run the register
-    const auto form = openRegister();
+    auto form = openRegister();
     select(*form, key);
     for (int i = 0; i < 3; ++i)
         scriptedMessages().expect();
@@ -176,13 +167,10 @@ TEST_F(RegisterDialogs, WithoutTheRightsAddAndEditAreRefusedBeforeAnythingOpens)
 
     expectRefusals(3);
     EXPECT_TRUE(scriptedModalRunner().ran().empty());
-}
 
-TEST_F(RegisterDialogs, AUserWhoMayNotDeleteStillAddsAndEdits)
-{
-    const int key = addOrder();
-    setUser(2);
-    const auto form = openRegister();
+    scriptedMessages().clear();
+    setUser(2);   // everything but deleting
+    form = openRegister();
     select(*form, key);
     for (int i = 0; i < 2; ++i)
         scriptedModalRunner().expect<Editor>([](Editor &editor) { return editor.result(); });
@@ -226,8 +214,19 @@ TEST_F(RegisterDialogs, TemplatesGoOnAnEmptyDayWithoutAQuestionAndOnlyOnce)
     const QDate day = QDate::currentDate().addYears(3);
     const int templates = templateCount();
     ASSERT_GT(templates, 0);
+    const int orders = orderCount();
     const auto form = openRegister();
     const int rows = form->frameListView1->lvMain->itemCount();
+
+    // The prompt proposes today; cancelled, it inserts nothing.
+    scriptedModalRunner().expect<TfrmDataWzorca>([](TfrmDataWzorca &prompt) {
+        EXPECT_EQ(prompt.date(), QDate::currentDate());
+        prompt.btnCancel->click();
+        return prompt.result();
+    });
+    form->acWzor->trigger();
+    EXPECT_TRUE(scriptedModalRunner().allRun());
+    EXPECT_EQ(orderCount(), orders);
 
     promptAnswers(day);
     form->acWzor->trigger();
@@ -266,21 +265,6 @@ TEST_F(RegisterDialogs, TemplatesOnADayWithOrdersAskFirst)
     form->acWzor->trigger();
     EXPECT_EQ(ordersOn(day), before + templates);
     EXPECT_EQ(templateCount(), 0);
-}
-
-TEST_F(RegisterDialogs, ACancelledDayPromptInsertsNothing)
-{
-    const int orders = orderCount();
-    const auto form = openRegister();
-    scriptedModalRunner().expect<TfrmDataWzorca>([](TfrmDataWzorca &prompt) {
-        EXPECT_EQ(prompt.date(), QDate::currentDate());
-        prompt.btnCancel->click();
-        return prompt.result();
-    });
-    form->acWzor->trigger();
-    EXPECT_TRUE(scriptedModalRunner().allRun());
-    EXPECT_EQ(orderCount(), orders);
-    EXPECT_GT(templateCount(), 0);
 }
 
 TEST_F(RegisterDialogs, GoodsOpenForTheSelectedOrderFromTheButtonAndTheLoadsAction)
