@@ -189,8 +189,13 @@ TEST_F(RegisterActions, CopyMakesOneOrderWithItsFirstPlacesAndSixGoodsColumns)
     select(*form, source);
 
     scriptedMessages().expect(MessageService::Yes);
+    int edited = 0;
     scriptedModalRunner().expect<TfrmAddEditZlecenia_Przych>(
-        [](TfrmAddEditZlecenia_Przych &editor) {
+        [&](TfrmAddEditZlecenia_Przych &editor) {
+            // The editor opens on the copy, which keeps its copy when cancelled.
+            edited = editor.orderKey();
+            EXPECT_EQ(editor.mode(), TfrmAddEditZlecenia_Przych::Edit);
+            EXPECT_EQ(editor.order().NUMER, 0);
             editor.btnCancel->click();
             return editor.result();
         });
@@ -203,6 +208,7 @@ TEST_F(RegisterActions, CopyMakesOneOrderWithItsFirstPlacesAndSixGoodsColumns)
     ASSERT_EQ(orderCount(), orders + 1);
     const int copy
         = db.scalar(QStringLiteral("SELECT MAX(ID_ZLECENIA_PRZYCH) FROM ZLECENIA_PRZYCH")).toInt();
+    EXPECT_EQ(edited, copy);
     const TZlecenia_przychObj copied = order(copy);
     EXPECT_EQ(copied.NUMER, 0);
     EXPECT_EQ(copied.IDFAKTURY, 0);

@@ -180,35 +180,6 @@ TEST_F(RegisterDialogs, AddAndEditNeedTheirRightsNotTheRightToDelete)
     EXPECT_TRUE(scriptedMessages().shown().empty());
 }
 
-TEST_F(RegisterDialogs, CopyOpensTheEditorOnTheCopyWhichGetsAFreshNumberOnSave)
-{
-    const int source = addOrder([](TZlecenia_przychObj &o) { o.NUMER = 4242; });
-    const auto form = openRegister();
-    select(*form, source);
-    int edited = 0;
-    scriptedMessages().expect(MessageService::Yes);
-    scriptedModalRunner().expect<Editor>([&](Editor &editor) {
-        edited = editor.orderKey();
-        EXPECT_EQ(editor.mode(), Editor::Edit);
-        EXPECT_EQ(editor.order().NUMER, 0);
-        editor.btnOk->click();
-        return editor.result();
-    });
-
-    form->acPowiel->trigger();
-
-    EXPECT_TRUE(scriptedModalRunner().allRun());
-    const int copy
-        = db.scalar(QStringLiteral("SELECT MAX(ID_ZLECENIA_PRZYCH) FROM ZLECENIA_PRZYCH")).toInt();
-    EXPECT_EQ(edited, copy);
-    EXPECT_NE(copy, source);
-    // Numbered after the order before it, not after itself (number 0).
-    EXPECT_EQ(order(copy).NUMER, 4243);
-    EXPECT_EQ(selectedKey(*form), copy);
-    EXPECT_EQ(cell(*form, copy, Col::Numer),
-              QString::number(order(copy).NUMER).rightJustified(8, u'0'));
-}
-
 TEST_F(RegisterDialogs, TemplatesGoOnAnEmptyDayWithoutAQuestionAndOnlyOnce)
 {
     const QDate day = QDate::currentDate().addYears(3);

@@ -53,9 +53,11 @@ protected:
     std::unique_ptr<TfrmZlecPrzychodzace> form;
 };
 
-TEST_F(RegisterPrintouts, WithoutASelectionOrAnInvoiceNothingPrints)
+TEST_F(RegisterPrintouts, WithoutASelectionOrAnInvoiceOrWhenCancelledNothingPrints)
 {
     const int uninvoiced = addOrder();
+    const int invoiced = addOrder();
+    invoiceOf({invoiced});
     form = openRegister();
     form->frameListView1->lvMain->setSelectedIndex(-1);
     EXPECT_TRUE(form->acPrintFra->isEnabled());
@@ -66,6 +68,11 @@ TEST_F(RegisterPrintouts, WithoutASelectionOrAnInvoiceNothingPrints)
     select(*form, uninvoiced);
     QTest::mouseClick(form->BitBtn10, Qt::LeftButton);
     EXPECT_TRUE(scriptedMessages().shown().empty());
+
+    scriptedMessages().expect(MessageService::Cancel);
+    select(*form, invoiced);
+    QTest::mouseClick(form->BitBtn10, Qt::LeftButton);
+    EXPECT_EQ(scriptedMessages().shown().size(), 1u);
     EXPECT_TRUE(files->deliveries().empty());
 }
 
@@ -111,16 +118,6 @@ TEST_F(RegisterPrintouts, OneKilometreOrderAsksForTheWordingAndNoPrintsDirectly)
     EXPECT_EQ(delivered[0].kind, Kind::Print);
     EXPECT_EQ(delivered[1].kind, Kind::Print);
     EXPECT_TRUE(Poppler::text(delivered[0].path).contains("3,50 PLN za każdy kilometr"));
-}
-
-TEST_F(RegisterPrintouts, CancelPrintsNothing)
-{
-    const int order = addOrder();
-    invoiceOf({order});
-    scriptedMessages().expect(MessageService::Cancel);
-    pressPrintInvoice(order);
-    EXPECT_EQ(scriptedMessages().shown().size(), 1u);
-    EXPECT_TRUE(files->deliveries().empty());
 }
 
 TEST_F(RegisterPrintouts, AltRPreviewsTheTransportOrderOfTheSelectedOrder)
