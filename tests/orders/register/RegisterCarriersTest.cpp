@@ -19,6 +19,7 @@
 #include "TfrmWydrukiPrzewoz.h"
 #include "TfrmWyborKontrachentDaty.h"
 #include "TfrmWyborKontrachentDaty1.h"
+#include "TfrmWyborWspolnika.h"
 #include "WindowScript.h"
 
 #include <QAction>
@@ -285,4 +286,31 @@ TEST_F(RegisterCarriers, TheStatementsOfClientsCarriersAndDispatchersStartFromTh
     form->pmZestaw->actions().at(7)->trigger();
     ASSERT_EQ(files->deliveries().size(), 1u);
     EXPECT_TRUE(files->deliveries()[0].title.startsWith("Faktury przewożnika i własne od "));
+}
+
+TEST_F(RegisterCarriers, IssuedInvoicesAndTheHiddenPartnersEntryPreviewTheirStatements)
+{
+    auto form = openRegister();
+    QAction *issued = form->pmZestaw->actions().at(0);
+    QAction *partners = form->pmZestaw->actions().at(8);
+    EXPECT_TRUE(issued->isVisible());
+    EXPECT_FALSE(partners->isVisible());
+    QTemporaryDir dir;
+    ReportOutputs::Scoped<PdfFileReportOutput> files{dir.path()};
+    scriptedModalRunner().expect<TfrmWybierzDatyAndKontrahenta>(
+        [](TfrmWybierzDatyAndKontrahenta &dialog) {
+            QTest::mouseClick(dialog.btnOk, Qt::LeftButton);
+            return dialog.result();
+        });
+    issued->trigger();
+    scriptedModalRunner().expect<TfrmWyborWspolnika>([](TfrmWyborWspolnika &dialog) {
+        QTest::mouseClick(dialog.btnOk, Qt::LeftButton);
+        return dialog.result();
+    });
+    partners->trigger();
+    EXPECT_TRUE(scriptedModalRunner().allRun());
+    ASSERT_EQ(files->deliveries().size(), 2u);
+    EXPECT_TRUE(files->deliveries()[0].title.startsWith(
+        QStringLiteral("ZESTAWIENIE FAKTUR KRAJOWYCH  (WYKONAWCA OBCY) OD ")));
+    EXPECT_EQ(files->deliveries()[1].title, "Zestawienie zleceń w podziale na kontrahenta");
 }
