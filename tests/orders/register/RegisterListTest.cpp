@@ -27,21 +27,6 @@ class RegisterList : public RegisterFixture
 {
 };
 
-TEST_F(RegisterList, UndatedOrdersAreListedWhateverTheRange)
-{
-    const int undated = addOrder([](TZlecenia_przychObj &o) { o.DATA = DateTime(); });
-    const int dated = addOrder();
-    const auto form = openRegister();
-    form->deOd->setDate(QDate(2001, 1, 1));
-    form->deDo->setDate(QDate(2001, 1, 31));
-    form->frameListView1->Refresh();
-    EXPECT_TRUE(listed(*form, undated));
-    EXPECT_FALSE(listed(*form, dated));
-    EXPECT_EQ(cell(*form, undated, Col::DataZaladunku), "");
-    EXPECT_EQ(form->frameListView1->lvMain->itemCount(),
-              db.count(QStringLiteral("ZLECENIA_PRZYCH"), QStringLiteral("DATA IS NULL")));
-}
-
 TEST_F(RegisterList, ClosedOrdersCarryTheClosedImage)
 {
     const int closed = addOrder([](TZlecenia_przychObj &o) { o.ZAMKNIETE = 1; });
@@ -158,7 +143,7 @@ TEST_F(RegisterList, HiddenLocationAndPartnerFiltersNarrowTheList)
     EXPECT_FALSE(listed(*form, branch));
 }
 
-TEST_F(RegisterList, TheDateRangeIsAMonthEitherSideOfToday)
+TEST_F(RegisterList, TheDateRangeIsAMonthEitherSideOfTodayAndUndatedOrdersAreAlwaysListed)
 {
     const QDate today = QDate::currentDate();
     const int inside = addOrder([&](TZlecenia_przychObj &o) {
@@ -172,4 +157,13 @@ TEST_F(RegisterList, TheDateRangeIsAMonthEitherSideOfToday)
     EXPECT_EQ(form->deDo->date(), today.addMonths(1));
     EXPECT_TRUE(listed(*form, inside));
     EXPECT_FALSE(listed(*form, outside));
+
+    const int undated = addOrder([](TZlecenia_przychObj &o) { o.DATA = DateTime(); });
+    form->deOd->setDate(QDate(2001, 1, 1));
+    form->deDo->setDate(QDate(2001, 1, 31));
+    form->frameListView1->Refresh();
+    EXPECT_FALSE(listed(*form, inside));
+    EXPECT_EQ(cell(*form, undated, Col::DataZaladunku), "");
+    EXPECT_EQ(form->frameListView1->lvMain->itemCount(),
+              db.count(QStringLiteral("ZLECENIA_PRZYCH"), QStringLiteral("DATA IS NULL")));
 }
