@@ -58,11 +58,25 @@ protected:
     }
 };
 
-TEST_F(RegisterDialogs, AddOpensAnEmptyEditorAndSelectsTheSavedOrder)
+TEST_F(RegisterDialogs, AddOpensAnEmptyEditorAndSelectsTheSavedOrderACancelledAddNothing)
 {
+    const int key = addOrder();
     const auto form = openRegister();
+    select(*form, key);
     const int rows = form->frameListView1->lvMain->itemCount();
     const int orders = orderCount();
+    const int addedMeanwhile = addOrder();
+    scriptedModalRunner().expect<Editor>([](Editor &editor) {
+        editor.edPojazd->setText(QStringLiteral("WX 7070"));
+        editor.btnCancel->click();
+        return editor.result();
+    });
+    form->acDodaj->trigger();
+    EXPECT_TRUE(scriptedModalRunner().allRun());
+    EXPECT_EQ(orderCount(), orders + 1);
+    EXPECT_FALSE(listed(*form, addedMeanwhile));   // not reloaded
+    EXPECT_EQ(selectedKey(*form), key);
+
     ASSERT_TRUE(form->frameListView1->BitBtn5->isVisibleTo(form.get()));
     scriptedModalRunner().expect<Editor>([&](Editor &editor) {
         EXPECT_EQ(editor.mode(), Editor::Add);
@@ -84,36 +98,16 @@ TEST_F(RegisterDialogs, AddOpensAnEmptyEditorAndSelectsTheSavedOrder)
     form->frameListView1->BitBtn5->click();
 
     EXPECT_TRUE(scriptedModalRunner().allRun());
-    ASSERT_EQ(orderCount(), orders + 2);
+    ASSERT_EQ(orderCount(), orders + 3);
     const int added = db.scalar(QStringLiteral("SELECT ID_ZLECENIA_PRZYCH FROM ZLECENIA_PRZYCH "
                                                "WHERE POJAZD='WX 7070'"))
                           .toInt();
-    EXPECT_EQ(form->frameListView1->lvMain->itemCount(), rows + 2);
+    // Reloaded: the order added meanwhile and the other workstation's too.
+    EXPECT_EQ(form->frameListView1->lvMain->itemCount(), rows + 3);
     EXPECT_EQ(selectedKey(*form), added);
     EXPECT_EQ(cell(*form, added, Col::NrRej), "WX 7070");
     EXPECT_TRUE(form->acPopraw->isEnabled());
     EXPECT_TRUE(scriptedMessages().shown().empty());
-}
-
-TEST_F(RegisterDialogs, ACancelledAddChangesNeitherTheOrdersNorTheList)
-{
-    const int key = addOrder();
-    const auto form = openRegister();
-    select(*form, key);
-    const int orders = orderCount();
-    const int addedMeanwhile = addOrder();
-    scriptedModalRunner().expect<Editor>([](Editor &editor) {
-        editor.edPojazd->setText(QStringLiteral("WX 7070"));
-        editor.btnCancel->click();
-        return editor.result();
-    });
-
-    form->acDodaj->trigger();
-
-    EXPECT_TRUE(scriptedModalRunner().allRun());
-    EXPECT_EQ(orderCount(), orders + 1);
-    EXPECT_FALSE(listed(*form, addedMeanwhile));   // not reloaded
-    EXPECT_EQ(selectedKey(*form), key);
 }
 
 TEST_F(RegisterDialogs, EditOpensTheSelectedOrderAndShowsItAgainAfterOkAsADoubleClickDoes)
@@ -257,9 +251,10 @@ TEST_F(RegisterDialogs, GoodsOpenForTheSelectedOrderFromTheButtonAndTheLoadsActi
     EXPECT_EQ(opened, (std::vector<int>{key, key}));
 }
 
-TEST_F(RegisterDialogs, ALoadingPlaceIsMadeForAnOrderWithoutOneAndSavedFromTheDialog)
+TEST_F(RegisterDialogs, ALoadingPlaceIsMadeWhenMissingAndAnUnloadingPlaceOpensTheExistingOne)
 {
     const int key = addOrder();
+    const int unloading = addPlace(key, 2, QStringLiteral("Rozładunek"));
     const auto form = openRegister();
     select(*form, key);
     const QString ofOrder = QStringLiteral("ID_ZLECENIA = %1 AND ID_ZRP = 1").arg(key);
@@ -272,30 +267,18 @@ TEST_F(RegisterDialogs, ALoadingPlaceIsMadeForAnOrderWithoutOneAndSavedFromTheDi
         places.btnOk->click();
         return places.result();
     });
-
     form->BitBtn13->click();
-
     EXPECT_TRUE(scriptedModalRunner().allRun());
     EXPECT_EQ(db.count(QStringLiteral("MIEJSCA_ZLEC"), ofOrder), 1);
     EXPECT_EQ(db.scalar("SELECT ADRES1 FROM MIEJSCA_ZLEC WHERE " + ofOrder), "Portowa 5");
-}
 
-TEST_F(RegisterDialogs, AnUnloadingPlaceOpensTheOrdersExistingRecord)
-{
-    const int key = addOrder();
-    addPlace(key, 1, QStringLiteral("Załadunek"));
-    const int unloading = addPlace(key, 2, QStringLiteral("Rozładunek"));
     const int places = db.count(QStringLiteral("MIEJSCA_ZLEC"));
-    const auto form = openRegister();
-    select(*form, key);
     scriptedModalRunner().expect<TfrmAdresy>([&](TfrmAdresy &dialog) {
         EXPECT_EQ(dialog.place().ID_MIEJSCA_ZLEC, unloading);
         EXPECT_EQ(dialog.edUlica[0]->text(), "Rozładunek");
         return 2;
     });
-
     form->BitBtn4->click();
-
     EXPECT_TRUE(scriptedModalRunner().allRun());
     EXPECT_EQ(db.count(QStringLiteral("MIEJSCA_ZLEC")), places);
 }
