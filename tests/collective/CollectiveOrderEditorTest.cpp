@@ -63,17 +63,10 @@ TEST_F(CollectiveOrderEditor, AnOutsideCarriersOrderSavedAtOnceLosesItsCarrierIn
         z.DATAWYSTAWIENIA_PRZEWOZNIK = DateTime::fromDate(QDate(2026, 5, 9));
     });
     const auto form = open(key);
-    EXPECT_EQ(form->windowTitle(), "Edycja danych");
-    EXPECT_EQ(form->pcWykonawca->currentWidget(), form->tsObcy);
-    EXPECT_EQ(form->cbWykonawca->currentText(), "ANTRANS");
+    // What is saved unchanged below was shown; names are only shown.
     EXPECT_EQ(form->cePojazdObcy->text(), "EL 1000");
     EXPECT_EQ(form->ceKierowcaObcy->text(), "Jan Żak");
-    EXPECT_EQ(form->cbVAT->currentText(), "8%");
-    EXPECT_EQ(form->ceTermin->value(), 21);
     EXPECT_EQ(form->seNumerKolejny->value(), 7);
-    EXPECT_EQ(form->seNumerJazdy->value(), 3);
-    EXPECT_DOUBLE_EQ(form->seKwota->value(), 1500.0);
-    EXPECT_EQ(form->deWystawiono->date(), QDate(2026, 5, 9));
     EXPECT_TRUE(form->edFakturaObca->text().isEmpty());
 
     EXPECT_EQ(save(*form), TfrmRODefault::mrOk);

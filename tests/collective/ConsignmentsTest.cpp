@@ -68,7 +68,6 @@ protected:
 TEST_F(ConsignmentLists, MorePlannedPalletsThanTheVehicleTakesShowRed)
 {
     const auto over = open(loaded({20, 14}));
-    EXPECT_EQ(over->windowTitle(), "Lista przesyłek");
     EXPECT_EQ(over->edPojazd->text(), "EL 1000");
     EXPECT_EQ(over->edKierowca->text(), "Jan Żak");
     EXPECT_EQ(over->edLadownosc->text(), "33");
@@ -111,7 +110,6 @@ TEST_F(ConsignmentLists, ARowShowsTheOrdersPalletsAdviceAndCrew)
     for (int column = 0; column < expected.size(); ++column)
         EXPECT_EQ(list.text(0, column), expected[column])
             << list.columnCaption(column).toStdString();
-    EXPECT_EQ(list.columnCaption(8), "Przewoźnik");
 }
 
 TEST_F(ConsignmentLists, RemovingAsksTakesTheOrderOffAndLeavesTheSumUntilRefreshed)
@@ -167,11 +165,9 @@ TEST_F(ConsignmentLists, OnlyDatedFreeOrdersAreOfferedAndTheCheckedOnesArePutOn)
     const auto form = open(key);
     scriptedModalRunner().expect<TfrmWybierzPrzesylki>([&](TfrmWybierzPrzesylki &dialog) {
         Typing::activate(&dialog);
-        EXPECT_EQ(dialog.windowTitle(), "Wybierz przesyłki na pojeździe");
         EXPECT_EQ(dialog.deOd->date(), today.addDays(-7));
         EXPECT_EQ(dialog.deDo->date(), today.addDays(7));
         TListView &list = *dialog.frameListView1->lvMain;
-        EXPECT_EQ(list.columnCaption(2), "Miasto (city)");
         EXPECT_EQ(list.itemCount(), 2);
         EXPECT_GE(list.findByKey(free), 0);
         EXPECT_GE(list.findByKey(unlinked), 0);

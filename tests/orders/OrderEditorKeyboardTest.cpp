@@ -31,10 +31,11 @@ protected:
         carrier = TestData::addContractor(db.connection(), QStringLiteral("Spedpol"));
     }
 
-    // Opens a new order in the editor; the handler plays the dispatcher.
-    int addOrder(const std::function<void(Editor &)> &user)
+    // Opens the order (a new one for key 0) in the editor; the handler
+    // plays the dispatcher.
+    int addOrder(const std::function<void(Editor &)> &user, int key = 0)
     {
-        auto form = TfrmRODefault::create<Editor>(nullptr, 0, Editor::Add);
+        auto form = TfrmRODefault::create<Editor>(nullptr, key, key ? Editor::Edit : Editor::Add);
         scriptedModalRunner().expect<Editor>([&](Editor &editor) {
             Typing::activate(&editor);
             user(editor);
@@ -80,15 +81,13 @@ TEST_F(OrderEditorKeyboard, AnEditedOrderKeepsWhatWasTypedLastWhateverClosesIt)
     order.NUMER = 12;
     order.KWOTA = 100.0;
     order.Insert();
-    const int key = order.GetMaxId();
-    auto form = TfrmRODefault::create<Editor>(nullptr, key, Editor::Edit);
-    scriptedModalRunner().expect<Editor>([&](Editor &e) {
-        Typing::activate(&e);
-        Typing::into(e.seKwota, QStringLiteral("250"));
-        Typing::click(e.btnOk);
-        return e.result();
-    });
-    EXPECT_EQ(form->showModal(), TfrmRODefault::mrOk);
+    const int result = addOrder(
+        [](Editor &e) {
+            Typing::into(e.seKwota, QStringLiteral("250"));
+            Typing::click(e.btnOk);
+        },
+        order.GetMaxId());
+    EXPECT_EQ(result, TfrmRODefault::mrOk);
     EXPECT_DOUBLE_EQ(lastOrder().KWOTA, 250.0);
 }
 

@@ -107,6 +107,15 @@ TEST_F(OrderPricing, TheRevenueTariffComesFromOwnTariffsAndBringsItsFourRates)
     e->edStawkaIloscGodzin->setValue(99.0);
     e->seKMLadownych->setValue(100);
     e->seKMPustych->setValue(2.0);
+    // Cancelling the register changes nothing.
+    scriptedModalRunner().expect<TfrmStawkiTaryfowe>([](TfrmStawkiTaryfowe &f) {
+        f.btnCancel->click();
+        return f.result();
+    });
+    e->acTaryfa->trigger();
+    EXPECT_EQ(e->tariffKey(), 0);
+    EXPECT_DOUBLE_EQ(e->edStawkaKMLadowny->value(), 0.0);
+    EXPECT_DOUBLE_EQ(e->edStawkaIloscGodzin->value(), 99.0);
     pickInRegister(own, 1);
     e->acTaryfa->trigger();
     EXPECT_TRUE(scriptedModalRunner().allRun());
@@ -150,21 +159,6 @@ TEST_F(OrderPricing, TheCostTariffKeepsOnlyKeyAndNameAndPricesTheCarrierCost)
     const auto saved = lastOrder();
     EXPECT_EQ(saved.IDTARYFYKOSZT, carriers);
     EXPECT_DOUBLE_EQ(saved.KOSZTRAZEM, 230.0);
-}
-
-TEST_F(OrderPricing, CancellingTheTariffRegisterChangesNothing)
-{
-    addTariff(db.connection(), {.name = QStringLiteral("Krajowa"), .own = 1, .perTonne = 5.0,
-                                .perLoadedKm = 5.0, .perHour = 5.0, .perPallet = 5.0});
-    auto e = newOrder();
-    e->rbStawkaTaryfowa->click();
-    scriptedModalRunner().expect<TfrmStawkiTaryfowe>([](TfrmStawkiTaryfowe &f) {
-        f.btnCancel->click();
-        return f.result();
-    });
-    e->acTaryfa->trigger();
-    EXPECT_EQ(e->tariffKey(), 0);
-    EXPECT_DOUBLE_EQ(e->edStawkaKMLadowny->value(), 0.0);
 }
 
 TEST_F(OrderPricing, APriceListEntryFillsTheAgreedAmountFromTheLookUp)

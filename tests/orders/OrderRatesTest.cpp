@@ -2,11 +2,6 @@
 
 #include <gtest/gtest.h>
 
-TEST(OrderRates, HundredLoadedKilometresAtOneTwoThreeFiveMakeOneTwentyThreeFifty)
-{
-    EXPECT_DOUBLE_EQ(OrderRates::priced({100, 0.0, 0.0, 0}, {1.235, 0.0, 0.0, 0.0}), 123.50);
-}
-
 TEST(OrderRates, EachProductIsRoundedBeforeTheSum)
 {
     // 1 x 0.005 is 0.01 four times over: 0.04, where the plain sum would

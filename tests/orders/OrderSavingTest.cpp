@@ -43,6 +43,14 @@ TEST_F(OrderSavingTest, ANewOrderIsNumberedAndKnownByTheKeyOfItsOwnInsert)
     }
     EXPECT_FALSE(transaction.InTransaction());
     EXPECT_EQ(db.countSeenElsewhere(QStringLiteral("ZLECENIA_PRZYCH")), 2);
+
+    // A number typed by hand is kept, and locks no year's numbering.
+    const int locks = db.count(QStringLiteral("NUMERACJA"));
+    TZlecenia_przychObj typed = newOrder(db.connection(), 77);
+    typed.DATA = DateTime::fromDate(QDate(2025, 4, 14));
+    OrderSaving::save(transaction, typed, true);
+    EXPECT_EQ(stored(typed.ID_ZLECENIA_PRZYCH).NUMER, 77);
+    EXPECT_EQ(db.count(QStringLiteral("NUMERACJA")), locks);
 }
 
 TEST_F(OrderSavingTest, ACopyGetsTheNumberAfterTheOrderItWasCopiedFrom)
@@ -58,14 +66,6 @@ TEST_F(OrderSavingTest, ACopyGetsTheNumberAfterTheOrderItWasCopiedFrom)
     EXPECT_EQ(copy.NUMER, 4243);
     EXPECT_EQ(copy.ID_ZLECENIA_PRZYCH, copyKey);
     EXPECT_EQ(stored(copyKey).NUMER, 4243);
-}
-
-TEST_F(OrderSavingTest, ANumberTypedByHandIsKept)
-{
-    TZlecenia_przychObj order = newOrder(db.connection(), 77);
-    OrderSaving::save(transaction, order, true);
-    EXPECT_EQ(stored(order.ID_ZLECENIA_PRZYCH).NUMER, 77);
-    EXPECT_EQ(db.count(QStringLiteral("NUMERACJA")), 0);
 }
 
 TEST_F(OrderSavingTest, InAnOlderTransactionAnotherWorkstationsNumberIsAConflictNotADuplicate)

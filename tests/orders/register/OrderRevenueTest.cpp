@@ -23,14 +23,10 @@ OrderRevenueFigures pricedFigures(int wholeAmount)
 
 } // namespace
 
-TEST(OrderRevenue, AnAgreedAmountOfOneOrMoreIsTheRevenueWhateverTheRates)
+TEST(OrderRevenue, AnAgreedAmountOfOneOrMoreIsTheRevenueBelowOneTheRatesPrice)
 {
     EXPECT_DOUBLE_EQ(orderRevenue(pricedFigures(1)), 1.0);
     EXPECT_DOUBLE_EQ(orderRevenue(pricedFigures(1235)), 1235.0);
-}
-
-TEST(OrderRevenue, BelowOneTheQuantitiesArePricedAtTheirOwnRates)
-{
     EXPECT_DOUBLE_EQ(orderRevenue(pricedFigures(0)), 51.0);
     EXPECT_DOUBLE_EQ(orderRevenue(pricedFigures(-5)), 51.0);
 }

@@ -23,9 +23,6 @@ namespace {
 using Col = OrderListColumns::Column;
 using Editor = TfrmAddEditZlecenia_Przych;
 
-const QString RefusalText
-    = QStringLiteral("Uprawnienia do tej operacji nie zostały nadane przez administratora.");
-
 int selectedKey(const TfrmZlecPrzychodzace &form)
 {
     const TListView *list = form.frameListView1->lvMain;
@@ -59,23 +56,27 @@ protected:
             return prompt.result();
         });
     }
-
-    void expectRefusals(std::size_t count)
-    {
-        ASSERT_EQ(scriptedMessages().shown().size(), count);
-        for (const ScriptedMessages::Shown &box : scriptedMessages().shown()) {
-            EXPECT_EQ(box.caption, "Uprawnienia");
-            EXPECT_EQ(box.text, RefusalText);
-            EXPECT_EQ(box.icon, MessageService::Icon::Warning);
-        }
-    }
 };
 
-TEST_F(RegisterDialogs, AddOpensAnEmptyEditorAndSelectsTheSavedOrder)
+TEST_F(RegisterDialogs, AddOpensAnEmptyEditorAndSelectsTheSavedOrderACancelledAddNothing)
 {
+    const int key = addOrder();
     const auto form = openRegister();
+    select(*form, key);
     const int rows = form->frameListView1->lvMain->itemCount();
     const int orders = orderCount();
+    const int addedMeanwhile = addOrder();
+    scriptedModalRunner().expect<Editor>([](Editor &editor) {
+        editor.edPojazd->setText(QStringLiteral("WX 7070"));
+        editor.btnCancel->click();
+        return editor.result();
+    });
+    form->acDodaj->trigger();
+    EXPECT_TRUE(scriptedModalRunner().allRun());
+    EXPECT_EQ(orderCount(), orders + 1);
+    EXPECT_FALSE(listed(*form, addedMeanwhile));   // not reloaded
+    EXPECT_EQ(selectedKey(*form), key);
+
     ASSERT_TRUE(form->frameListView1->BitBtn5->isVisibleTo(form.get()));
     scriptedModalRunner().expect<Editor>([&](Editor &editor) {
         EXPECT_EQ(editor.mode(), Editor::Add);
@@ -97,42 +98,23 @@ TEST_F(RegisterDialogs, AddOpensAnEmptyEditorAndSelectsTheSavedOrder)
     form->frameListView1->BitBtn5->click();
 
     EXPECT_TRUE(scriptedModalRunner().allRun());
-    ASSERT_EQ(orderCount(), orders + 2);
+    ASSERT_EQ(orderCount(), orders + 3);
     const int added = db.scalar(QStringLiteral("SELECT ID_ZLECENIA_PRZYCH FROM ZLECENIA_PRZYCH "
                                                "WHERE POJAZD='WX 7070'"))
                           .toInt();
-    EXPECT_EQ(form->frameListView1->lvMain->itemCount(), rows + 2);
+    // Reloaded: the order added meanwhile and the other workstation's too.
+    EXPECT_EQ(form->frameListView1->lvMain->itemCount(), rows + 3);
     EXPECT_EQ(selectedKey(*form), added);
     EXPECT_EQ(cell(*form, added, Col::NrRej), "WX 7070");
     EXPECT_TRUE(form->acPopraw->isEnabled());
     EXPECT_TRUE(scriptedMessages().shown().empty());
 }
 
-TEST_F(RegisterDialogs, ACancelledAddChangesNeitherTheOrdersNorTheList)
-{
-    const int key = addOrder();
-    const auto form = openRegister();
-    select(*form, key);
-    const int orders = orderCount();
-    const int addedMeanwhile = addOrder();
-    scriptedModalRunner().expect<Editor>([](Editor &editor) {
-        editor.edPojazd->setText(QStringLiteral("WX 7070"));
-        editor.btnCancel->click();
-        return editor.result();
-    });
-
-    form->acDodaj->trigger();
-
-    EXPECT_TRUE(scriptedModalRunner().allRun());
-    EXPECT_EQ(orderCount(), orders + 1);
-    EXPECT_FALSE(listed(*form, addedMeanwhile));   // not reloaded
-    EXPECT_EQ(selectedKey(*form), key);
-}
-
-TEST_F(RegisterDialogs, EditOpensTheSelectedOrderAndShowsItAgainAfterOk)
+TEST_F(RegisterDialogs, EditOpensTheSelectedOrderAndShowsItAgainAfterOkAsADoubleClickDoes)
 {
     const int key = addOrder([](TZlecenia_przychObj &o) { o.POJAZD = QStringLiteral("EL 1"); });
     const auto form = openRegister();
+    form->show();
     select(*form, key);
     ASSERT_TRUE(form->frameListView1->BitBtn4->isVisibleTo(form.get()));
     scriptedModalRunner().expect<Editor>([&](Editor &editor) {
@@ -150,35 +132,25 @@ TEST_F(RegisterDialogs, EditOpensTheSelectedOrderAndShowsItAgainAfterOk)
     EXPECT_EQ(order(key).POJAZD, "EL 2");
     EXPECT_EQ(cell(*form, key, Col::NrRej), "EL 2");
     EXPECT_EQ(selectedKey(*form), key);
-}
 
-TEST_F(RegisterDialogs, ADoubleClickOnARowEditsThatOrder)
-{
-    const int key = addOrder();
-    const auto form = openRegister();
-    form->show();
     TListView *list = form->frameListView1->lvMain;
-    select(*form, key);
     const QModelIndex index = list->model()->index(list->findByKey(key), 0);
-    const QPoint at = list->visualRect(index).center();
     int opened = 0;
     scriptedModalRunner().expect<Editor>([&](Editor &editor) {
         opened = editor.orderKey();
         EXPECT_EQ(editor.mode(), Editor::Edit);
         return 2;
     });
-
-    QTest::mouseDClick(list->viewport(), Qt::LeftButton, {}, at);
-
+    QTest::mouseDClick(list->viewport(), Qt::LeftButton, {}, list->visualRect(index).center());
     EXPECT_TRUE(scriptedModalRunner().allRun());
     EXPECT_EQ(opened, key);
 }
 
-TEST_F(RegisterDialogs, WithoutTheRightsAddAndEditAreRefusedBeforeAnythingOpens)
+TEST_F(RegisterDialogs, AddAndEditNeedTheirRightsNotTheRightToDelete)
 {
     const int key = addOrder();
     setUser(3);   // may only run the register
-    const auto form = openRegister();
+    auto form = openRegister();
     select(*form, key);
     for (int i = 0; i < 3; ++i)
         scriptedMessages().expect();
@@ -189,13 +161,10 @@ TEST_F(RegisterDialogs, WithoutTheRightsAddAndEditAreRefusedBeforeAnythingOpens)
 
     expectRefusals(3);
     EXPECT_TRUE(scriptedModalRunner().ran().empty());
-}
 
-TEST_F(RegisterDialogs, AUserWhoMayNotDeleteStillAddsAndEdits)
-{
-    const int key = addOrder();
-    setUser(2);
-    const auto form = openRegister();
+    scriptedMessages().clear();
+    setUser(2);   // everything but deleting
+    form = openRegister();
     select(*form, key);
     for (int i = 0; i < 2; ++i)
         scriptedModalRunner().expect<Editor>([](Editor &editor) { return editor.result(); });
@@ -205,42 +174,24 @@ TEST_F(RegisterDialogs, AUserWhoMayNotDeleteStillAddsAndEdits)
     EXPECT_TRUE(scriptedMessages().shown().empty());
 }
 
-TEST_F(RegisterDialogs, CopyOpensTheEditorOnTheCopyWhichGetsAFreshNumberOnSave)
-{
-    const int source = addOrder([](TZlecenia_przychObj &o) { o.NUMER = 4242; });
-    const auto form = openRegister();
-    select(*form, source);
-    int edited = 0;
-    scriptedMessages().expect(MessageService::Yes);
-    scriptedModalRunner().expect<Editor>([&](Editor &editor) {
-        edited = editor.orderKey();
-        EXPECT_EQ(editor.mode(), Editor::Edit);
-        EXPECT_EQ(editor.order().NUMER, 0);
-        editor.btnOk->click();
-        return editor.result();
-    });
-
-    form->acPowiel->trigger();
-
-    EXPECT_TRUE(scriptedModalRunner().allRun());
-    const int copy
-        = db.scalar(QStringLiteral("SELECT MAX(ID_ZLECENIA_PRZYCH) FROM ZLECENIA_PRZYCH")).toInt();
-    EXPECT_EQ(edited, copy);
-    EXPECT_NE(copy, source);
-    // Numbered after the order before it, not after itself (number 0).
-    EXPECT_EQ(order(copy).NUMER, 4243);
-    EXPECT_EQ(selectedKey(*form), copy);
-    EXPECT_EQ(cell(*form, copy, Col::Numer),
-              QString::number(order(copy).NUMER).rightJustified(8, u'0'));
-}
-
 TEST_F(RegisterDialogs, TemplatesGoOnAnEmptyDayWithoutAQuestionAndOnlyOnce)
 {
     const QDate day = QDate::currentDate().addYears(3);
     const int templates = templateCount();
     ASSERT_GT(templates, 0);
+    const int orders = orderCount();
     const auto form = openRegister();
     const int rows = form->frameListView1->lvMain->itemCount();
+
+    // The prompt proposes today; cancelled, it inserts nothing.
+    scriptedModalRunner().expect<TfrmDataWzorca>([](TfrmDataWzorca &prompt) {
+        EXPECT_EQ(prompt.date(), QDate::currentDate());
+        prompt.btnCancel->click();
+        return prompt.result();
+    });
+    form->acWzor->trigger();
+    EXPECT_TRUE(scriptedModalRunner().allRun());
+    EXPECT_EQ(orderCount(), orders);
 
     promptAnswers(day);
     form->acWzor->trigger();
@@ -281,20 +232,6 @@ TEST_F(RegisterDialogs, TemplatesOnADayWithOrdersAskFirst)
     EXPECT_EQ(templateCount(), 0);
 }
 
-TEST_F(RegisterDialogs, ACancelledDayPromptInsertsNothing)
-{
-    const int orders = orderCount();
-    const auto form = openRegister();
-    scriptedModalRunner().expect<TfrmDataWzorca>([](TfrmDataWzorca &prompt) {
-        prompt.btnCancel->click();
-        return prompt.result();
-    });
-    form->acWzor->trigger();
-    EXPECT_TRUE(scriptedModalRunner().allRun());
-    EXPECT_EQ(orderCount(), orders);
-    EXPECT_GT(templateCount(), 0);
-}
-
 TEST_F(RegisterDialogs, GoodsOpenForTheSelectedOrderFromTheButtonAndTheLoadsAction)
 {
     const int key = addOrder();
@@ -314,9 +251,10 @@ TEST_F(RegisterDialogs, GoodsOpenForTheSelectedOrderFromTheButtonAndTheLoadsActi
     EXPECT_EQ(opened, (std::vector<int>{key, key}));
 }
 
-TEST_F(RegisterDialogs, ALoadingPlaceIsMadeForAnOrderWithoutOneAndSavedFromTheDialog)
+TEST_F(RegisterDialogs, ALoadingPlaceIsMadeWhenMissingAndAnUnloadingPlaceOpensTheExistingOne)
 {
     const int key = addOrder();
+    const int unloading = addPlace(key, 2, QStringLiteral("Rozładunek"));
     const auto form = openRegister();
     select(*form, key);
     const QString ofOrder = QStringLiteral("ID_ZLECENIA = %1 AND ID_ZRP = 1").arg(key);
@@ -329,30 +267,18 @@ TEST_F(RegisterDialogs, ALoadingPlaceIsMadeForAnOrderWithoutOneAndSavedFromTheDi
         places.btnOk->click();
         return places.result();
     });
-
     form->BitBtn13->click();
-
     EXPECT_TRUE(scriptedModalRunner().allRun());
     EXPECT_EQ(db.count(QStringLiteral("MIEJSCA_ZLEC"), ofOrder), 1);
     EXPECT_EQ(db.scalar("SELECT ADRES1 FROM MIEJSCA_ZLEC WHERE " + ofOrder), "Portowa 5");
-}
 
-TEST_F(RegisterDialogs, AnUnloadingPlaceOpensTheOrdersExistingRecord)
-{
-    const int key = addOrder();
-    addPlace(key, 1, QStringLiteral("Załadunek"));
-    const int unloading = addPlace(key, 2, QStringLiteral("Rozładunek"));
     const int places = db.count(QStringLiteral("MIEJSCA_ZLEC"));
-    const auto form = openRegister();
-    select(*form, key);
     scriptedModalRunner().expect<TfrmAdresy>([&](TfrmAdresy &dialog) {
         EXPECT_EQ(dialog.place().ID_MIEJSCA_ZLEC, unloading);
         EXPECT_EQ(dialog.edUlica[0]->text(), "Rozładunek");
         return 2;
     });
-
     form->BitBtn4->click();
-
     EXPECT_TRUE(scriptedModalRunner().allRun());
     EXPECT_EQ(db.count(QStringLiteral("MIEJSCA_ZLEC")), places);
 }

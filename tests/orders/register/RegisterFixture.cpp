@@ -1,8 +1,13 @@
 #include "RegisterFixture.h"
 
 #include "DemoSeeder.h"
+#include "ScriptedMessages.h"
+#include "TFakturyObj.h"
+#include "TFaktury_pozycjeObj.h"
 #include "TMiejsca_zlecObj.h"
 #include "TframeListView.h"
+
+#include <QTest>
 
 #include <gtest/gtest.h>
 
@@ -77,4 +82,49 @@ bool RegisterFixture::listed(const TfrmZlecPrzychodzace &form, int orderKey)
 void RegisterFixture::select(TfrmZlecPrzychodzace &form, int orderKey)
 {
     ASSERT_TRUE(form.frameListView1->lvMain->selectByKey(orderKey));
+}
+
+void RegisterFixture::showActive(QWidget &form)
+{
+    form.show();
+    form.activateWindow();
+    ASSERT_TRUE(QTest::qWaitForWindowActive(&form));
+    form.findChild<TframeListView *>()->lvMain->setFocus();
+}
+
+void RegisterFixture::expectRefusals(std::size_t count)
+{
+    ASSERT_EQ(scriptedMessages().shown().size(), count);
+    for (const ScriptedMessages::Shown &box : scriptedMessages().shown()) {
+        EXPECT_EQ(box.caption, "Uprawnienia");
+        EXPECT_EQ(box.text,
+                  "Uprawnienia do tej operacji nie zostały nadane przez administratora.");
+        EXPECT_EQ(box.icon, MessageService::Icon::Warning);
+    }
+}
+
+int RegisterFixture::invoiceOf(const std::vector<int> &orderKeys)
+{
+    TFakturyObj invoice(db.connection());
+    invoice.NUMER_PELNY = QStringLiteral("501/07/2026");
+    invoice.ID_RODZAJ_DOK = 1;
+    invoice.ID_KONTRAHENTA = 2;
+    invoice.ID_RODZ_PLATNOSCI = 2;
+    invoice.KONTO_BANKOWE = 1;
+    invoice.ID_WYSTAWIL = 1;
+    invoice.DATA_WYSTAWIENIA = DateTime::today();
+    EXPECT_TRUE(invoice.Insert());
+    TFaktury_pozycjeObj position(db.connection());
+    position.ID_FAKTURY = invoice.ID_FAKTURY;
+    position.TRESC = QStringLiteral("Przewóz towaru wg załącznika");
+    position.ILOSC = 1;
+    position.CENA_NETTO = 2000;
+    position.ID_VAT = 1;
+    EXPECT_TRUE(position.Insert());
+    for (int orderKey : orderKeys)
+        db.exec(QStringLiteral("UPDATE ZLECENIA_PRZYCH SET IDFAKTURY=%1 "
+                               "WHERE ID_ZLECENIA_PRZYCH=%2")
+                    .arg(invoice.ID_FAKTURY)
+                    .arg(orderKey));
+    return invoice.ID_FAKTURY;
 }

@@ -8,6 +8,7 @@
 
 #include <functional>
 #include <memory>
+#include <vector>
 
 // A seeded demo company (users 1 all rights, 2 no delete, 3 run only) with
 // the session set to user 1 on the test's connection and transaction.
@@ -37,4 +38,12 @@ protected:
     static QString cell(const TfrmZlecPrzychodzace &form, int orderKey, int column);
     static bool listed(const TfrmZlecPrzychodzace &form, int orderKey);
     static void select(TfrmZlecPrzychodzace &form, int orderKey);
+    // Keyboard shortcuts reach only a shown, active window: shows the
+    // form, waits until it is active and puts the focus in its list.
+    static void showActive(QWidget &form);
+    // Exactly count messages were shown, each the administrator's refusal.
+    static void expectRefusals(std::size_t count);
+    // An invoice numbered 501/07/2026 of the orders, with one position;
+    // returns its key.
+    int invoiceOf(const std::vector<int> &orderKeys);
 };

@@ -1,7 +1,6 @@
 #include "Format.h"
 #include "OrderListColumns.h"
 #include "RegisterFixture.h"
-#include "Statement.h"
 #include "TDateEdit.h"
 #include "TImageList.h"
 #include "TRadioGroup.h"
@@ -27,66 +26,6 @@ QString amount(const char *text)
 class RegisterList : public RegisterFixture
 {
 };
-
-TEST_F(RegisterList, ShowsTheWindowWithItsColumnsAndTotal)
-{
-    const auto form = openRegister();
-    EXPECT_EQ(form->windowTitle(), "Zlecenia przewozowe");
-    EXPECT_EQ(form->lblHeader->text(), "Zlecenia przewozowe w ruchu krajowym");
-    EXPECT_EQ(form->minimumWidth(), 712);
-    EXPECT_EQ(form->btnOk->text(), "&Zamknij");
-    const TListView *list = form->frameListView1->lvMain;
-    const QStringList expected{
-        "Numer",      "Zleceniodawca", "Przewoźnik", "Kierowca",  "ZlecObce",      "Data załad",
-        "Trasa",      "Faktura",       "Nr.karty",   "Nr.listu",  "Nr.rej",        "Fakt.Przew",
-        "Koszt",      "Przychod",      "Różnica",    "FaktPrzew", "Operator",      "Filtr",
-        "IdKontrahenta", "IdPrzewoźnika", "IDZlecenia"};
-    ASSERT_EQ(list->columnCount(), expected.size());
-    for (int column = 0; column < list->columnCount(); ++column)
-        EXPECT_EQ(list->columnCaption(column), expected[column]);
-    EXPECT_EQ(list->columnWidth(Col::Przewoznik), 160);
-    EXPECT_EQ(list->columnWidth(Col::Operator), 80);
-    EXPECT_TRUE(list->items().columnAlignment(Col::Przychod) & Qt::AlignRight);
-    EXPECT_TRUE(list->items().columnAlignment(Col::Trasa) & Qt::AlignLeft);
-
-    // The templates have no date and are listed too.
-    EXPECT_EQ(list->itemCount(), listedCount());
-    EXPECT_GT(db.count(QStringLiteral("ZLECENIA_PRZYCH"), QStringLiteral("DATA IS NULL")), 0);
-    EXPECT_EQ(form->lblKwota->text(), Format::number(form->total(), u"#,##0.00"));
-    EXPECT_GT(form->total(), 0.0);
-    EXPECT_TRUE(form->KartaZeZlecen());
-}
-
-TEST_F(RegisterList, EachRowShowsTheTextsOfItsOrder)
-{
-    db.exec(QStringLiteral("UPDATE KONTRAHENCI SET SKROT = 'KLIENT-X' WHERE ID_KONTRAHENTA = 2"));
-    const int key = addOrder([](TZlecenia_przychObj &o) {
-        o.NUMER = 42;
-        o.KWOTA = 1000.0;
-        o.KOSZTRAZEM = 800.5;
-    });
-    const auto form = openRegister();
-    EXPECT_EQ(cell(*form, key, Col::Numer), "00000042");
-    EXPECT_EQ(cell(*form, key, Col::Zleceniodawca), "KLIENT-X");
-    EXPECT_EQ(cell(*form, key, Col::Przychod), amount("1 000,00"));
-    EXPECT_EQ(cell(*form, key, Col::Roznica), "199,50");
-    EXPECT_EQ(cell(*form, key, Col::IdZlecenia), QString::number(key));
-}
-
-TEST_F(RegisterList, UndatedOrdersAreListedWhateverTheRange)
-{
-    const int undated = addOrder([](TZlecenia_przychObj &o) { o.DATA = DateTime(); });
-    const int dated = addOrder();
-    const auto form = openRegister();
-    form->deOd->setDate(QDate(2001, 1, 1));
-    form->deDo->setDate(QDate(2001, 1, 31));
-    form->frameListView1->Refresh();
-    EXPECT_TRUE(listed(*form, undated));
-    EXPECT_FALSE(listed(*form, dated));
-    EXPECT_EQ(cell(*form, undated, Col::DataZaladunku), "");
-    EXPECT_EQ(form->frameListView1->lvMain->itemCount(),
-              db.count(QStringLiteral("ZLECENIA_PRZYCH"), QStringLiteral("DATA IS NULL")));
-}
 
 TEST_F(RegisterList, ClosedOrdersCarryTheClosedImage)
 {
@@ -204,7 +143,7 @@ TEST_F(RegisterList, HiddenLocationAndPartnerFiltersNarrowTheList)
     EXPECT_FALSE(listed(*form, branch));
 }
 
-TEST_F(RegisterList, TheDateRangeIsAMonthEitherSideOfToday)
+TEST_F(RegisterList, TheDateRangeIsAMonthEitherSideOfTodayAndUndatedOrdersAreAlwaysListed)
 {
     const QDate today = QDate::currentDate();
     const int inside = addOrder([&](TZlecenia_przychObj &o) {
@@ -218,4 +157,13 @@ TEST_F(RegisterList, TheDateRangeIsAMonthEitherSideOfToday)
     EXPECT_EQ(form->deDo->date(), today.addMonths(1));
     EXPECT_TRUE(listed(*form, inside));
     EXPECT_FALSE(listed(*form, outside));
+
+    const int undated = addOrder([](TZlecenia_przychObj &o) { o.DATA = DateTime(); });
+    form->deOd->setDate(QDate(2001, 1, 1));
+    form->deDo->setDate(QDate(2001, 1, 31));
+    form->frameListView1->Refresh();
+    EXPECT_FALSE(listed(*form, inside));
+    EXPECT_EQ(cell(*form, undated, Col::DataZaladunku), "");
+    EXPECT_EQ(form->frameListView1->lvMain->itemCount(),
+              db.count(QStringLiteral("ZLECENIA_PRZYCH"), QStringLiteral("DATA IS NULL")));
 }

@@ -5,8 +5,6 @@
 #include "ReportOutput.h"
 #include "ScriptedMessages.h"
 #include "TBitBtn.h"
-#include "TFakturyObj.h"
-#include "TFaktury_pozycjeObj.h"
 
 #include <QAction>
 #include <QTemporaryDir>
@@ -21,34 +19,6 @@ using Kind = PdfFileReportOutput::Kind;
 class RegisterPrintouts : public RegisterFixture
 {
 protected:
-    // An invoice of the given orders, one position; returns its key.
-    int invoiceOf(const std::vector<int> &orderKeys)
-    {
-        TFakturyObj invoice(db.connection());
-        invoice.NUMER_PELNY = QStringLiteral("501/07/2026");
-        invoice.ID_RODZAJ_DOK = 1;
-        invoice.ID_KONTRAHENTA = 2;
-        invoice.ID_RODZ_PLATNOSCI = 2;
-        invoice.KONTO_BANKOWE = 1;
-        invoice.ID_WYSTAWIL = 1;
-        invoice.DATA_WYSTAWIENIA = DateTime::today();
-        EXPECT_TRUE(invoice.Insert());
-        const int key = invoice.GetMaxId();
-        TFaktury_pozycjeObj position(db.connection());
-        position.ID_FAKTURY = key;
-        position.TRESC = QStringLiteral("Przewóz towaru wg załącznika");
-        position.ILOSC = 1;
-        position.CENA_NETTO = 2000;
-        position.ID_VAT = 1;
-        EXPECT_TRUE(position.Insert());
-        for (int orderKey : orderKeys)
-            db.exec(QStringLiteral(
-                        "UPDATE ZLECENIA_PRZYCH SET IDFAKTURY=%1 WHERE ID_ZLECENIA_PRZYCH=%2")
-                        .arg(key)
-                        .arg(orderKey));
-        return key;
-    }
-
     // An order priced per laden kilometre, listed in the register.
     int kilometreOrder(int number)
     {
@@ -83,9 +53,11 @@ protected:
     std::unique_ptr<TfrmZlecPrzychodzace> form;
 };
 
-TEST_F(RegisterPrintouts, WithoutASelectionOrAnInvoiceNothingPrints)
+TEST_F(RegisterPrintouts, WithoutASelectionOrAnInvoiceOrWhenCancelledNothingPrints)
 {
     const int uninvoiced = addOrder();
+    const int invoiced = addOrder();
+    invoiceOf({invoiced});
     form = openRegister();
     form->frameListView1->lvMain->setSelectedIndex(-1);
     EXPECT_TRUE(form->acPrintFra->isEnabled());
@@ -96,6 +68,11 @@ TEST_F(RegisterPrintouts, WithoutASelectionOrAnInvoiceNothingPrints)
     select(*form, uninvoiced);
     QTest::mouseClick(form->BitBtn10, Qt::LeftButton);
     EXPECT_TRUE(scriptedMessages().shown().empty());
+
+    scriptedMessages().expect(MessageService::Cancel);
+    select(*form, invoiced);
+    QTest::mouseClick(form->BitBtn10, Qt::LeftButton);
+    EXPECT_EQ(scriptedMessages().shown().size(), 1u);
     EXPECT_TRUE(files->deliveries().empty());
 }
 
@@ -143,25 +120,12 @@ TEST_F(RegisterPrintouts, OneKilometreOrderAsksForTheWordingAndNoPrintsDirectly)
     EXPECT_TRUE(Poppler::text(delivered[0].path).contains("3,50 PLN za każdy kilometr"));
 }
 
-TEST_F(RegisterPrintouts, CancelPrintsNothing)
-{
-    const int order = addOrder();
-    invoiceOf({order});
-    scriptedMessages().expect(MessageService::Cancel);
-    pressPrintInvoice(order);
-    EXPECT_EQ(scriptedMessages().shown().size(), 1u);
-    EXPECT_TRUE(files->deliveries().empty());
-}
-
 TEST_F(RegisterPrintouts, AltRPreviewsTheTransportOrderOfTheSelectedOrder)
 {
     const int order = addOrder([](TZlecenia_przychObj &o) { o.NUMER = 9104; });
     form = openRegister();
-    form->show();
-    form->activateWindow();
-    ASSERT_TRUE(QTest::qWaitForWindowActive(form.get()));
+    showActive(*form);
     select(*form, order);
-    form->frameListView1->lvMain->setFocus();
     QTest::keyClick(form->frameListView1->lvMain, Qt::Key_R, Qt::AltModifier);
     // A button's accelerator clicks it a moment later, as a person sees it go down.
     const auto &delivered = files->deliveries();
