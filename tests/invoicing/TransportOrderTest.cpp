@@ -4,7 +4,6 @@
 #include "TTowaryObj.h"
 #include "TfrmPrintReport.h"
 
-
 class TransportOrderTest : public InvoicingFixture
 {
 protected:
@@ -59,7 +58,7 @@ protected:
     }
 };
 
-TEST_F(TransportOrderTest, SaysWhoOrdersWhoCarriesWhereAndWhen)
+TEST_F(TransportOrderTest, SaysWhoOrdersWhoCarriesWhereWhenWhatAndForHowMuch)
 {
     const QStringList texts = print(fullOrder());
     EXPECT_TRUE(inOrder(texts, {
@@ -80,11 +79,6 @@ TEST_F(TransportOrderTest, SaysWhoOrdersWhoCarriesWhereAndWhen)
         "Pojazd:", "EL 4521K", "Naczepa:", "EL 7730N",
         "Kierowca:", "Łukasz Dąbrowski", "Telefon:", "+48 501 222 333"}))
         << texts.join(u'|').toStdString();
-}
-
-TEST_F(TransportOrderTest, GoodsFreightTermsAndSignatures)
-{
-    const QStringList texts = print(fullOrder());
     EXPECT_TRUE(inOrder(texts, {
         "Towar:", "Lp.", "Nazwa towaru", "Ilość", "Jm", "ADR", "Opis",
         "1", "Pręty stalowe", "20,5", "t",
