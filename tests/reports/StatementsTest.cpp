@@ -41,9 +41,7 @@ testing::AssertionResult inOrder(const QStringList &texts, const QStringList &ex
 
 } // namespace
 
-class Statements : public ReportsFixture
-{
-};
+using Statements = ReportsFixture;
 
 TEST_F(Statements, ClientsGoByProfitLargestFirstWithTheirTotalsAndTheGrandTotal)
 {
@@ -68,15 +66,6 @@ TEST_F(Statements, ClientsGoByProfitLargestFirstWithTheirTotalsAndTheGrandTotal)
                                 "Strona 1 z 1"}));
     EXPECT_FALSE(texts.contains("00000005"));
     EXPECT_FALSE(texts.contains("00000006"));
-}
-
-TEST_F(Statements, OneClientsStatementHoldsOnlyThatClient)
-{
-    seedCompany();
-    TfrmZestawienieKontrahenta statement(db.connection(), march(), alfa);
-    const QStringList texts = printed(statement);
-    EXPECT_TRUE(inOrder(texts, {"Kontrahent: ALFA", "Ogółem (pozycji: 2):", amount("1 469,50")}));
-    EXPECT_FALSE(texts.contains("Kontrahent: BETA"));
 }
 
 TEST_F(Statements, RevenueIsTheRegistersForTheSameOrders)
