@@ -122,8 +122,7 @@ TEST_F(KsefInvoiceTest, ManyOrdersAndEveryVatGroupAgreeWithThePrintoutToTheGrosz
                                 asPrinted(xml.one("Fa/P_13_6_1")), "zw.",
                                 asPrinted(xml.one("Fa/P_13_7")), "NP",
                                 asPrinted(xml.one("Fa/P_13_8")), "Do zapłaty:",
-                                asPrinted(xml.one("Fa/P_15"))}))
-        << texts.join(u'|').toStdString();
+                                asPrinted(xml.one("Fa/P_15"))}));
     double net = 0.0;
     for (const char *field : {"P_13_1", "P_13_2", "P_13_6_1", "P_13_7", "P_13_8"})
         net += xml.one(QStringLiteral("Fa/") + QLatin1String(field)).toDouble();
