@@ -59,23 +59,7 @@ TEST_F(WydrukiPrzewoz, TheUnpaidListAsksForNoPeriodTheOthersForTheCurrentMonth)
     }
 }
 
-TEST_F(WydrukiPrzewoz, AllCarriersFirstTheCarrierListFollowsTheCheckBox)
-{
-    addInvoice({.carrier = Alfa, .number = QStringLiteral("A1")});
-    addInvoice({.carrier = Beta, .number = QStringLiteral("B1")});
-    const auto dialog = open(Beta, Mode::Paid);
-    EXPECT_EQ(dialog->CBKontrahenci->count(), 2);
-    EXPECT_EQ(dialog->CBKontrahenci->currentText(), "BETA CARGO");
-    EXPECT_TRUE(dialog->cbWszyscy->isChecked());
-    EXPECT_FALSE(dialog->CBKontrahenci->isEnabled());
-    click(dialog->cbWszyscy);
-    EXPECT_TRUE(dialog->CBKontrahenci->isEnabled());
-    click(dialog->cbWszyscy);
-    EXPECT_FALSE(dialog->CBKontrahenci->isEnabled());
-    EXPECT_EQ(dialog->list().carrier, 0);
-}
-
-TEST_F(WydrukiPrzewoz, OkPreviewsTheChosenCarriersInvoicesOfThePeriod)
+TEST_F(WydrukiPrzewoz, AllCarriersFirstOkPreviewsTheChosenCarriersInvoicesOfThePeriod)
 {
     const QDate day = today();
     addInvoice({.carrier = Alfa, .number = QStringLiteral("ALFA-1"), .amount = 120.0,
@@ -84,7 +68,17 @@ TEST_F(WydrukiPrzewoz, OkPreviewsTheChosenCarriersInvoicesOfThePeriod)
                 .issued = day, .paymentDate = day, .paid = true});
     addInvoice({.carrier = Beta, .number = QStringLiteral("BETA-OLD"), .amount = 80.0,
                 .issued = day.addMonths(-2), .paymentDate = day.addMonths(-2), .paid = true});
+    // All carriers first, the given one offered; the list follows the box.
     const auto dialog = open(Alfa, Mode::Paid);
+    EXPECT_EQ(dialog->CBKontrahenci->count(), 2);
+    EXPECT_EQ(dialog->CBKontrahenci->currentText(), "ALFA TRANS");
+    EXPECT_TRUE(dialog->cbWszyscy->isChecked());
+    EXPECT_FALSE(dialog->CBKontrahenci->isEnabled());
+    click(dialog->cbWszyscy);
+    EXPECT_TRUE(dialog->CBKontrahenci->isEnabled());
+    click(dialog->cbWszyscy);
+    EXPECT_FALSE(dialog->CBKontrahenci->isEnabled());
+    EXPECT_EQ(dialog->list().carrier, 0);
     click(dialog->cbWszyscy);
     dialog->CBKontrahenci->setFocus();
     QTest::keyClick(dialog->CBKontrahenci, Qt::Key_Down);

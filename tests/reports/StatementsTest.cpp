@@ -239,8 +239,9 @@ TEST_F(Statements, RateDifferencesPutOurInvoiceAgainstTheCarriersAndTheOwnFleetA
     db.exec(QStringLiteral("UPDATE FAKTURY_POZYCJE SET ID_ZLECENIA = "
                            "(SELECT ID_ZLECENIA_PRZYCH FROM ZLECENIA_PRZYCH WHERE NUMER = 2) "
                            "WHERE ID_FAKTURY = 1 AND ILOSC = 2"));
-    const int late = addInvoice(QStringLiteral("003/03/2026"), 1, QDate(2026, 3, 28), anna, gamma,
-                                 {{1.0, 500.0}});
+    const int late = addInvoice({.number = QStringLiteral("003/03/2026"), .client = gamma,
+                                 .issued = QDate(2026, 3, 28), .user = anna,
+                                 .lines = {{.price = 500.0}}});
     db.exec(QStringLiteral("UPDATE ZLECENIA_PRZYCH SET IDFAKTURY = %1 WHERE NUMER = 4")
                 .arg(late));
 
