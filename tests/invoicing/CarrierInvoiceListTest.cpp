@@ -139,13 +139,8 @@ TEST_F(CarrierInvoiceListTest, ListsGoByCarrierNameThePaymentListByPaymentDate)
     ASSERT_EQ(unpaid.size(), 3);
     EXPECT_EQ(unpaid.last(), "A1");
 
-    const std::vector<CarrierInvoiceRow> payments
-        = CarrierInvoiceList::readPayments(db.connection());
-    EXPECT_EQ(numbersOf(payments),
-              (QStringList{QStringLiteral("B1"), QStringLiteral("B2"), QStringLiteral("A1")}));
-    EXPECT_DOUBLE_EQ(payments.front().paidAmount, 100.0);
-    EXPECT_EQ(payments.front().shortName, "BETA CARGO");
-    EXPECT_EQ(payments.front().carrierHeader(), "BETA CARGO ; Poznań  ul. Kupiecka 4");
+    EXPECT_EQ(numbersOf(CarrierInvoiceList::readPayments(db.connection())),
+              (QStringList{"B1", "B2", "A1"}));
 }
 
 TEST_F(CarrierInvoiceListTest, TitlesNameTheListAndItsPeriod)
