@@ -5,11 +5,7 @@
 
 #include <gtest/gtest.h>
 
-namespace {
-
 using Mode = CarrierInvoiceList::Mode;
-
-} // namespace
 
 class CarrierInvoiceListTest : public CarrierInvoicesFixture
 {

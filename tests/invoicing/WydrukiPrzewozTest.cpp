@@ -15,11 +15,7 @@
 #include <QTemporaryDir>
 #include <QTest>
 
-namespace {
-
 using Mode = CarrierInvoiceList::Mode;
-
-} // namespace
 
 class WydrukiPrzewoz : public CarrierInvoicesFixture
 {
