@@ -1,16 +1,11 @@
 // Which carriers' invoices each list holds, in which order, and the days
 // they are late.
-#include "CarrierInvoice.h"
 #include "CarrierInvoiceList.h"
 #include "CarrierInvoicesFixture.h"
 
 #include <gtest/gtest.h>
 
-namespace {
-
 using Mode = CarrierInvoiceList::Mode;
-
-} // namespace
 
 class CarrierInvoiceListTest : public CarrierInvoicesFixture
 {
@@ -62,24 +57,6 @@ TEST_F(CarrierInvoiceListTest, AnOrderWithoutACarrierAmountIsNeverUnpaidOrIssued
     EXPECT_EQ(numbers(Mode::Unpaid), QStringList{QStringLiteral("GROSZ")});
     EXPECT_EQ(numbers(Mode::Issued, 0, march1, march1), QStringList{QStringLiteral("GROSZ")});
     EXPECT_TRUE(CarrierInvoiceList::readPayments(db.connection()).size() == 1);
-}
-
-TEST_F(CarrierInvoiceListTest, UncheckingPaidBringsTheInvoiceBackToTheUnpaidList)
-{
-    const int key = addInvoice({.number = QStringLiteral("FV 1"), .amount = 500.0,
-                                .issued = march1, .paymentDate = march1, .paid = true});
-    EXPECT_TRUE(numbers(Mode::Unpaid).isEmpty());
-    EXPECT_EQ(numbers(Mode::Paid, 0, march1, march1), QStringList{QStringLiteral("FV 1")});
-
-    CarrierInvoice invoice = *CarrierInvoice::load(db.connection(), key);
-    invoice.paid = false;
-    ASSERT_TRUE(invoice.save(db.connection(), key));
-    EXPECT_EQ(numbers(Mode::Unpaid), QStringList{QStringLiteral("FV 1")});
-    EXPECT_TRUE(numbers(Mode::Paid, 0, march1, march1).isEmpty());
-
-    // Any mark but 1 is unpaid, NULL too.
-    db.exec(QStringLiteral("UPDATE ZLECENIA_PRZYCH SET NRRAMPY=NULL"));
-    EXPECT_EQ(numbers(Mode::Unpaid), QStringList{QStringLiteral("FV 1")});
 }
 
 TEST_F(CarrierInvoiceListTest, PaidLateShowsTheDaysAndPaidInTimeShowsBlank)
@@ -138,7 +115,8 @@ TEST_F(CarrierInvoiceListTest, ThePeriodTakesBothEndsWholeAndTheCarrierFilterOne
     QStringList alfa = numbers(Mode::Paid, Alfa, QDate(2026, 2, 1), march31);
     alfa.sort();
     EXPECT_EQ(alfa, (QStringList{QStringLiteral("A-FEB"), QStringLiteral("A-MAR1")}));
-    db.exec(QStringLiteral("UPDATE ZLECENIA_PRZYCH SET NRRAMPY=0"));
+    // Any mark but 1 is unpaid, NULL too.
+    db.exec(QStringLiteral("UPDATE ZLECENIA_PRZYCH SET NRRAMPY=NULL"));
     EXPECT_EQ(numbers(Mode::Unpaid, Beta), QStringList{QStringLiteral("B-MAR31")});
 }
 
@@ -157,13 +135,8 @@ TEST_F(CarrierInvoiceListTest, ListsGoByCarrierNameThePaymentListByPaymentDate)
     ASSERT_EQ(unpaid.size(), 3);
     EXPECT_EQ(unpaid.last(), "A1");
 
-    const std::vector<CarrierInvoiceRow> payments
-        = CarrierInvoiceList::readPayments(db.connection());
-    EXPECT_EQ(numbersOf(payments),
-              (QStringList{QStringLiteral("B1"), QStringLiteral("B2"), QStringLiteral("A1")}));
-    EXPECT_DOUBLE_EQ(payments.front().paidAmount, 100.0);
-    EXPECT_EQ(payments.front().shortName, "BETA CARGO");
-    EXPECT_EQ(payments.front().carrierHeader(), "BETA CARGO ; Poznań  ul. Kupiecka 4");
+    EXPECT_EQ(numbersOf(CarrierInvoiceList::readPayments(db.connection())),
+              (QStringList{"B1", "B2", "A1"}));
 }
 
 TEST_F(CarrierInvoiceListTest, TitlesNameTheListAndItsPeriod)
@@ -172,9 +145,7 @@ TEST_F(CarrierInvoiceListTest, TitlesNameTheListAndItsPeriod)
     list.from = march1;
     list.to = QDate(2026, 3, 31);
     EXPECT_EQ(list.title(), " Faktury przewoźników niezapłacone ");
-    list.mode = Mode::Paid;
-    EXPECT_EQ(list.title(), " Faktury przewoźników zapłacone od 2026-03-01 do dnia 2026-03-31");
-    list.mode = Mode::Issued;
+    list.mode = Mode::Issued;   // the paid list's is read from its page
     EXPECT_EQ(list.title(), " Faktury przewoźników wystawione  od 2026-03-01 do dnia 2026-03-31");
 }
 

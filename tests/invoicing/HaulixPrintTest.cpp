@@ -5,15 +5,6 @@
 #include <QFile>
 #include <QTemporaryDir>
 
-namespace {
-
-ProgramRun runPrint(const QStringList &arguments)
-{
-    return ProgramRun::of(QStringLiteral(HAULIX_PRINT_PATH), arguments);
-}
-
-} // namespace
-
 class HaulixPrintTest : public InvoicingFixture
 {
 protected:
@@ -30,6 +21,14 @@ protected:
             });
     }
 
+    // haulix-print on the test's database, or on another one given first.
+    ProgramRun run(const QStringList &job, const QString &database = {})
+    {
+        return ProgramRun::of(QStringLiteral(HAULIX_PRINT_PATH),
+                              QStringList{"--db", database.isEmpty() ? db.path() : database}
+                                  + job);
+    }
+
     QString target(const QString &name) const { return dir.filePath(name); }
 
     QTemporaryDir dir;
@@ -39,16 +38,13 @@ protected:
 TEST_F(HaulixPrintTest, InvoiceWithAttachmentIsOneFileInvoiceFirst)
 {
     const QString file = target(QStringLiteral("faktura.pdf"));
-    const ProgramRun run = runPrint({QStringLiteral("--db"), db.path(),
-                                   QStringLiteral("invoice-with-attachment"),
-                                   QString::number(invoice), file});
-    ASSERT_EQ(run.exitCode, 0) << run.errors.toStdString();
-    EXPECT_TRUE(run.errors.isEmpty()) << run.errors.toStdString();
-    EXPECT_EQ(Poppler::info(file, QStringLiteral("Pages")), QStringLiteral("3"));
-    EXPECT_EQ(Poppler::info(file, QStringLiteral("size"), 1), QStringLiteral("595 x 842 pts (A4)"));
-    EXPECT_EQ(Poppler::info(file, QStringLiteral("size"), 3), QStringLiteral("842 x 595 pts (A4)"));
-    EXPECT_EQ(Poppler::info(file, QStringLiteral("Title")),
-              QStringLiteral("Faktura VAT Nr 007/07/2026"));
+    const ProgramRun done = run({"invoice-with-attachment", QString::number(invoice), file});
+    ASSERT_EQ(done.exitCode, 0) << done.errors.toStdString();
+    EXPECT_TRUE(done.errors.isEmpty()) << done.errors.toStdString();
+    EXPECT_EQ(Poppler::info(file, QStringLiteral("Pages")), "3");
+    EXPECT_EQ(Poppler::info(file, QStringLiteral("size"), 1), "595 x 842 pts (A4)");
+    EXPECT_EQ(Poppler::info(file, QStringLiteral("size"), 3), "842 x 595 pts (A4)");
+    EXPECT_EQ(Poppler::info(file, QStringLiteral("Title")), "Faktura VAT Nr 007/07/2026");
     const QString text = Poppler::text(file);
     const qsizetype invoiceAt = text.indexOf(QStringLiteral("Faktura VAT Nr 007/07/2026"));
     const qsizetype attachmentAt = text.indexOf(QStringLiteral("Zestawienie zbiorcze do rachunku"));
@@ -65,44 +61,37 @@ TEST_F(HaulixPrintTest, EachPrintoutByItsNameWithItsPolishTexts)
     });
     addGoods(order, QStringLiteral("Żółte łóżka"), 3);
     const std::tuple<const char *, int, QStringList> printouts[] = {
-        {"invoice", invoice, {"Faktura VAT Nr 007/07/2026", "Gęśla Jaźń S.A.", "Słownie złotych:"}},
+        {"invoice", invoice,
+         {"Faktura VAT Nr 007/07/2026", "Gęśla Jaźń S.A.", "Słownie złotych:"}},
         {"attachment", invoice, {"Zestawienie zbiorcze do rachunku numer :", "Miejsce rozł."}},
         {"order", order, {"Zlecenie transportowe nr 00000077", "Żwirek Transport Jan Kolski",
                           "Żółte łóżka", "Zażółć gęślą jaźń"}}};
     for (const auto &[name, key, expected] : printouts) {
         const QString file = target(QString::fromLatin1(name) + QStringLiteral(".pdf"));
-        const ProgramRun run = runPrint({QStringLiteral("--db"), db.path(), QString::fromLatin1(name),
-                                       QString::number(key), file});
-        EXPECT_EQ(run.exitCode, 0) << name << run.errors.toStdString();
+        const ProgramRun done = run({QString::fromLatin1(name), QString::number(key), file});
+        EXPECT_EQ(done.exitCode, 0) << name << done.errors.toStdString();
         const QString text = Poppler::text(file);
         for (const QString &shown : expected)
             EXPECT_TRUE(text.contains(shown)) << name << ": " << shown.toStdString();
     }
 }
 
-TEST_F(HaulixPrintTest, AnUnknownIdIsOneLineAndLeavesNoFile)
+TEST_F(HaulixPrintTest, AnUnknownIdIsOneLineAndLeavesNoFileOrAnEarlierOneAsItWas)
 {
-    const QString file = target(QStringLiteral("brak.pdf"));
-    const ProgramRun run = runPrint({QStringLiteral("--db"), db.path(), QStringLiteral("invoice"),
-                                   QStringLiteral("9999"), file});
-    EXPECT_EQ(run.exitCode, 1);
-    EXPECT_EQ(run.errors, QStringLiteral("Nie ma faktury o identyfikatorze 9999.\n"));
-    EXPECT_FALSE(QFile::exists(file));
+    ProgramRun done = run({"invoice", "9999", target(QStringLiteral("brak.pdf"))});
+    EXPECT_EQ(done.exitCode, 1);
+    EXPECT_EQ(done.errors, "Nie ma faktury o identyfikatorze 9999.\n");
     EXPECT_TRUE(QDir(dir.path()).isEmpty());
-}
 
-TEST_F(HaulixPrintTest, AFailureLeavesAnEarlierFileAsItWas)
-{
     const QString file = target(QStringLiteral("zlecenie.pdf"));
     {
         QFile earlier(file);
         ASSERT_TRUE(earlier.open(QIODevice::WriteOnly));
         earlier.write("poprzedni");
     }
-    const ProgramRun run = runPrint({QStringLiteral("--db"), db.path(), QStringLiteral("order"),
-                                   QStringLiteral("9999"), file});
-    EXPECT_EQ(run.exitCode, 1);
-    EXPECT_EQ(run.errors, QStringLiteral("Nie ma zlecenia o identyfikatorze 9999.\n"));
+    done = run({"order", "9999", file});
+    EXPECT_EQ(done.exitCode, 1);
+    EXPECT_EQ(done.errors, "Nie ma zlecenia o identyfikatorze 9999.\n");
     QFile earlier(file);
     ASSERT_TRUE(earlier.open(QIODevice::ReadOnly));
     EXPECT_EQ(earlier.readAll(), "poprzedni");
@@ -110,48 +99,38 @@ TEST_F(HaulixPrintTest, AFailureLeavesAnEarlierFileAsItWas)
 
 TEST_F(HaulixPrintTest, AnUnreadableDatabaseOrFileIsOneLine)
 {
-    const QString file = target(QStringLiteral("faktura.pdf"));
-    ProgramRun run = runPrint({QStringLiteral("--db"), target(QStringLiteral("nie-ma.fdb")),
-                             QStringLiteral("invoice"), QString::number(invoice), file});
-    EXPECT_EQ(run.exitCode, 1);
-    EXPECT_EQ(run.errors.count(u'\n'), 1) << run.errors.toStdString();
-    EXPECT_TRUE(run.errors.startsWith(QStringLiteral("Nie można otworzyć bazy danych ")));
-
     const QString notADatabase = target(QStringLiteral("tekst.fdb"));
     {
         QFile text(notADatabase);
         ASSERT_TRUE(text.open(QIODevice::WriteOnly));
         text.write("to nie jest baza danych");
     }
-    run = runPrint({QStringLiteral("--db"), notADatabase, QStringLiteral("invoice"),
-                    QString::number(invoice), file});
-    EXPECT_EQ(run.exitCode, 1);
-    EXPECT_EQ(run.errors.count(u'\n'), 1) << run.errors.toStdString();
-    EXPECT_TRUE(run.errors.startsWith(QStringLiteral("Nie można otworzyć bazy danych ")));
-
+    const QString file = target(QStringLiteral("faktura.pdf"));
     const QString nowhere = target(QStringLiteral("brak/katalogu/faktura.pdf"));
-    run = runPrint({QStringLiteral("--db"), db.path(), QStringLiteral("invoice"),
-                    QString::number(invoice), nowhere});
-    EXPECT_EQ(run.exitCode, 1);
-    EXPECT_EQ(run.errors.count(u'\n'), 1) << run.errors.toStdString();
-    EXPECT_TRUE(run.errors.startsWith(QStringLiteral("Nie można zapisać pliku ") + nowhere));
+    for (const auto &[database, output, error] :
+         {std::tuple{target(QStringLiteral("nie-ma.fdb")), file,
+                     QStringLiteral("Nie można otworzyć bazy danych ")},
+          {notADatabase, file, QStringLiteral("Nie można otworzyć bazy danych ")},
+          {QString(), nowhere, "Nie można zapisać pliku " + nowhere}}) {
+        const ProgramRun done = run({"invoice", QString::number(invoice), output}, database);
+        EXPECT_EQ(done.exitCode, 1) << output.toStdString();
+        EXPECT_EQ(done.errors.count(u'\n'), 1) << done.errors.toStdString();
+        EXPECT_TRUE(done.errors.startsWith(error)) << done.errors.toStdString();
+    }
     EXPECT_FALSE(QFile::exists(file));
     EXPECT_FALSE(QFile::exists(nowhere));
 }
 
 TEST_F(HaulixPrintTest, AWrongCommandLineShowsTheUsage)
 {
-    ProgramRun run = runPrint({QStringLiteral("--db"), db.path(), QStringLiteral("paragon"),
-                             QStringLiteral("1"), target(QStringLiteral("x.pdf"))});
-    EXPECT_EQ(run.exitCode, 2);
-    EXPECT_TRUE(run.errors.startsWith(QStringLiteral("Nieznany wydruk: paragon.")));
-    EXPECT_TRUE(run.errors.contains(QStringLiteral("invoice-with-attachment ID")));
+    ProgramRun done = run({"paragon", "1", target(QStringLiteral("x.pdf"))});
+    EXPECT_EQ(done.exitCode, 2);
+    EXPECT_TRUE(done.errors.startsWith(QStringLiteral("Nieznany wydruk: paragon.")));
+    EXPECT_TRUE(done.errors.contains(QStringLiteral("invoice-with-attachment ID")));
 
-    run = runPrint({QStringLiteral("--db"), db.path(), QStringLiteral("invoice"),
-                    QStringLiteral("pierwsza"), target(QStringLiteral("x.pdf"))});
-    EXPECT_EQ(run.exitCode, 2);
-    EXPECT_EQ(run.errors,
-              QStringLiteral("Identyfikator musi być dodatnią liczbą całkowitą: pierwsza\n"));
+    done = run({"invoice", "pierwsza", target(QStringLiteral("x.pdf"))});
+    EXPECT_EQ(done.exitCode, 2);
+    EXPECT_EQ(done.errors, "Identyfikator musi być dodatnią liczbą całkowitą: pierwsza\n");
     EXPECT_TRUE(QDir(dir.path()).isEmpty());
 }
 
@@ -174,45 +153,39 @@ TEST_F(HaulixPrintTest, TheCarriersListsWithTheirPeriodAndCarrier)
     });
     const auto print = [this](const QStringList &job) {
         const QString file = target(job.first() + QStringLiteral(".pdf"));
-        const ProgramRun run
-            = runPrint(QStringList{QStringLiteral("--db"), db.path()} + job + QStringList{file});
-        EXPECT_EQ(run.exitCode, 0) << run.errors.toStdString();
-        return run.exitCode == 0 ? Poppler::text(file) : QString();
+        const ProgramRun done = run(job + QStringList{file});
+        EXPECT_EQ(done.exitCode, 0) << done.errors.toStdString();
+        return done.exitCode == 0 ? Poppler::text(file) : QString();
     };
     const QString july1 = QStringLiteral("2026-07-01"), july31 = QStringLiteral("2026-07-31");
 
-    QString text = print({QStringLiteral("carriers-paid"), july1, july31,
-                          QStringLiteral("--carrier"), QString::number(CarrierKey)});
-    EXPECT_TRUE(text.contains(" Faktury przewoźników zapłacone od 2026-07-01 do dnia 2026-07-31"));
+    QString text
+        = print({"carriers-paid", july1, july31, "--carrier", QString::number(CarrierKey)});
+    EXPECT_TRUE(
+        text.contains(" Faktury przewoźników zapłacone od 2026-07-01 do dnia 2026-07-31"));
     EXPECT_TRUE(text.contains("ŻW-1"));
     EXPECT_TRUE(text.contains("ŻWIREK ; Łódź"));
-    text = print({QStringLiteral("carriers-issued"), QStringLiteral("--carrier"),
-                  QString::number(ClientKey), july1, july31});
+    text = print({"carriers-issued", "--carrier", QString::number(ClientKey), july1, july31});
     EXPECT_TRUE(text.contains("GĘ-1"));
     EXPECT_FALSE(text.contains("ŻW-1"));
-    text = print({QStringLiteral("carriers-unpaid")});
+    text = print({"carriers-unpaid"});
     EXPECT_TRUE(text.contains("GĘ-1"));
     EXPECT_FALSE(text.contains("ŻW-1"));
-    text = print({QStringLiteral("carriers-payment")});
+    text = print({"carriers-payment"});
     EXPECT_TRUE(text.contains("GĘŚLA"));
     EXPECT_FALSE(text.contains("ŻW-1"));
 
-    for (const auto &[arguments, error] :
-         {std::pair{
-              QStringList{QStringLiteral("carriers-paid"), july1},
-              QStringLiteral("Wydruk carriers-paid wymaga argumentów: OD DO [--carrier ID].")},
-          {QStringList{QStringLiteral("carriers-paid"), QStringLiteral("2026-13-01"), july31},
-           QStringLiteral("Data musi mieć postać rrrr-mm-dd: 2026-13-01")},
-          {QStringList{QStringLiteral("carriers-paid"), july31, july1},
-           QStringLiteral("Początek okresu jest późniejszy niż jego koniec.")},
-          {QStringList{QStringLiteral("carriers-unpaid"), QStringLiteral("--carrier"),
-                       QStringLiteral("ŻWIREK")},
-           QStringLiteral(
-               "Identyfikator przewoźnika musi być dodatnią liczbą całkowitą: ŻWIREK")}}) {
-        const ProgramRun run = runPrint(QStringList{QStringLiteral("--db"), db.path()} + arguments
-                                      + QStringList{target(QStringLiteral("zle.pdf"))});
-        EXPECT_EQ(run.exitCode, 2) << arguments.join(u' ').toStdString();
-        EXPECT_TRUE(run.errors.startsWith(error)) << run.errors.toStdString();
+    const std::pair<QStringList, QString> wrong[] = {
+        {{"carriers-paid", july1},
+         "Wydruk carriers-paid wymaga argumentów: OD DO [--carrier ID]."},
+        {{"carriers-paid", "2026-13-01", july31}, "Data musi mieć postać rrrr-mm-dd: 2026-13-01"},
+        {{"carriers-paid", july31, july1}, "Początek okresu jest późniejszy niż jego koniec."},
+        {{"carriers-unpaid", "--carrier", "ŻWIREK"},
+         "Identyfikator przewoźnika musi być dodatnią liczbą całkowitą: ŻWIREK"}};
+    for (const auto &[arguments, error] : wrong) {
+        const ProgramRun done = run(arguments + QStringList{target(QStringLiteral("zle.pdf"))});
+        EXPECT_EQ(done.exitCode, 2) << arguments.join(u' ').toStdString();
+        EXPECT_TRUE(done.errors.startsWith(error)) << done.errors.toStdString();
     }
     EXPECT_FALSE(QFile::exists(target(QStringLiteral("zle.pdf"))));
 }

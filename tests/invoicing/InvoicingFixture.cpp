@@ -132,7 +132,11 @@ QStringList InvoicingFixture::printed(const std::vector<ReportPage> &pages)
     return texts;
 }
 
-bool InvoicingFixture::inOrder(const QStringList &texts, const QStringList &expected)
+testing::AssertionResult InvoicingFixture::inOrder(const QStringList &texts,
+                                                   const QStringList &expected)
 {
-    return ReportTexts::inOrder(texts, expected);
+    if (ReportTexts::inOrder(texts, expected))
+        return testing::AssertionSuccess();
+    return testing::AssertionFailure() << "expected in order: " << expected.join(u'|').toStdString()
+                                       << "\nprinted: " << texts.join(u'|').toStdString();
 }

@@ -19,8 +19,10 @@ public:
     // The non-empty texts of the pages in the order they were placed, dotted
     // signature lines left out.
     static QStringList printed(const std::vector<ReportPage> &pages);
-    // Whether the texts hold these, in this order (others may stand between).
-    static bool inOrder(const QStringList &texts, const QStringList &expected);
+    // Whether the texts hold these, in this order (others may stand between);
+    // a failure shows both.
+    static testing::AssertionResult inOrder(const QStringList &texts,
+                                            const QStringList &expected);
 
 protected:
     static constexpr int ClientKey = 1;

@@ -66,7 +66,7 @@ protected:
     ReportOutputs::Scoped<PdfFileReportOutput> files{dir.path()};
 };
 
-TEST_F(InvoicingForms, ListsTheFreeOrdersOfTheRangeAndChecksThemAsAsked)
+TEST_F(InvoicingForms, ListsTheFreeOrdersOfTheRangeChecksThemAsAskedNoneIsSaid)
 {
     const int today = orderOn(0, [](auto &o) { o.IDMIASTO_VIA = Warszawa; o.NR_KARTY = 12; });
     const int lastMonth = orderOn(-20);
@@ -97,12 +97,8 @@ TEST_F(InvoicingForms, ListsTheFreeOrdersOfTheRangeAndChecksThemAsAsked)
     EXPECT_EQ(form->checkedOrders().size(), 3u);
     Typing::click(form->btnOdznaczWszystko);
     EXPECT_TRUE(form->checkedOrders().empty());
-}
 
-TEST_F(InvoicingForms, NothingCheckedIsSaidAndNothingOpens)
-{
-    orderOn(0);
-    const auto form = openSelection();
+    // Nothing checked is said and nothing opens.
     scriptedMessages().expect();
     Typing::accelerator(Qt::Key_Z);
     ASSERT_EQ(scriptedMessages().shown().size(), 1u);

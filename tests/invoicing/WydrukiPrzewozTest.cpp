@@ -15,11 +15,7 @@
 #include <QTemporaryDir>
 #include <QTest>
 
-namespace {
-
 using Mode = CarrierInvoiceList::Mode;
-
-} // namespace
 
 class WydrukiPrzewoz : public CarrierInvoicesFixture
 {
@@ -40,10 +36,9 @@ protected:
     ReportOutputs::Scoped<PdfFileReportOutput> files{dir.path()};
 };
 
-TEST_F(WydrukiPrzewoz, TheUnpaidListAsksForNoPeriod)
+TEST_F(WydrukiPrzewoz, TheUnpaidListAsksForNoPeriodTheOthersForTheCurrentMonth)
 {
     const auto unpaid = open(0, Mode::Unpaid);
-    EXPECT_EQ(unpaid->windowTitle(), "Podaj dane ");
     EXPECT_EQ(unpaid->lblHeader->text(), "Faktury przewoźnika niezapłacone");
     const QList<QWidget *> period{unpaid->lblOd, unpaid->deOd, unpaid->lblDo, unpaid->deDo};
     for (const QWidget *field : period)
@@ -53,8 +48,6 @@ TEST_F(WydrukiPrzewoz, TheUnpaidListAsksForNoPeriod)
         const auto dialog = open(0, mode);
         EXPECT_EQ(dialog->lblHeader->text(), "Faktury przewoźników za okres");
         EXPECT_TRUE(dialog->deOd->isVisible());
-        EXPECT_EQ(dialog->lblOd->text(), "Data od :");
-        EXPECT_EQ(dialog->lblDo->text(), "Data do :");
         // The current month.
         const QDate today = CarrierInvoicesFixture::today();
         EXPECT_EQ(dialog->deOd->date(), QDate(today.year(), today.month(), 1));
@@ -62,24 +55,7 @@ TEST_F(WydrukiPrzewoz, TheUnpaidListAsksForNoPeriod)
     }
 }
 
-TEST_F(WydrukiPrzewoz, AllCarriersFirstTheCarrierListFollowsTheCheckBox)
-{
-    addInvoice({.carrier = Alfa, .number = QStringLiteral("A1")});
-    addInvoice({.carrier = Beta, .number = QStringLiteral("B1")});
-    const auto dialog = open(Beta, Mode::Paid);
-    EXPECT_EQ(dialog->Label1->text(), "Wybierz przewoźnika");
-    EXPECT_EQ(dialog->CBKontrahenci->count(), 2);
-    EXPECT_EQ(dialog->CBKontrahenci->currentText(), "BETA CARGO");
-    EXPECT_TRUE(dialog->cbWszyscy->isChecked());
-    EXPECT_FALSE(dialog->CBKontrahenci->isEnabled());
-    click(dialog->cbWszyscy);
-    EXPECT_TRUE(dialog->CBKontrahenci->isEnabled());
-    click(dialog->cbWszyscy);
-    EXPECT_FALSE(dialog->CBKontrahenci->isEnabled());
-    EXPECT_EQ(dialog->list().carrier, 0);
-}
-
-TEST_F(WydrukiPrzewoz, OkPreviewsTheChosenCarriersInvoicesOfThePeriod)
+TEST_F(WydrukiPrzewoz, AllCarriersFirstOkPreviewsTheChosenCarriersInvoicesOfThePeriod)
 {
     const QDate day = today();
     addInvoice({.carrier = Alfa, .number = QStringLiteral("ALFA-1"), .amount = 120.0,
@@ -88,7 +64,17 @@ TEST_F(WydrukiPrzewoz, OkPreviewsTheChosenCarriersInvoicesOfThePeriod)
                 .issued = day, .paymentDate = day, .paid = true});
     addInvoice({.carrier = Beta, .number = QStringLiteral("BETA-OLD"), .amount = 80.0,
                 .issued = day.addMonths(-2), .paymentDate = day.addMonths(-2), .paid = true});
+    // All carriers first, the given one offered; the list follows the box.
     const auto dialog = open(Alfa, Mode::Paid);
+    EXPECT_EQ(dialog->CBKontrahenci->count(), 2);
+    EXPECT_EQ(dialog->CBKontrahenci->currentText(), "ALFA TRANS");
+    EXPECT_TRUE(dialog->cbWszyscy->isChecked());
+    EXPECT_FALSE(dialog->CBKontrahenci->isEnabled());
+    click(dialog->cbWszyscy);
+    EXPECT_TRUE(dialog->CBKontrahenci->isEnabled());
+    click(dialog->cbWszyscy);
+    EXPECT_FALSE(dialog->CBKontrahenci->isEnabled());
+    EXPECT_EQ(dialog->list().carrier, 0);
     click(dialog->cbWszyscy);
     dialog->CBKontrahenci->setFocus();
     QTest::keyClick(dialog->CBKontrahenci, Qt::Key_Down);

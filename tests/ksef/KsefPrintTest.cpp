@@ -11,24 +11,26 @@
 
 namespace {
 
-ProgramRun runPrint(const QStringList &arguments)
+ProgramRun runPrint(const QString &database, const QStringList &job)
 {
-    return ProgramRun::of(QStringLiteral(HAULIX_PRINT_PATH), arguments);
+    return ProgramRun::of(QStringLiteral(HAULIX_PRINT_PATH), QStringList{"--db", database} + job);
 }
 
 } // namespace
 
 class KsefPrintTest : public KsefFixture
 {
+protected:
+    ProgramRun run(const QStringList &job) { return runPrint(db.path(), job); }
+
+    const QString file = dir.filePath(QStringLiteral("faktura.xml"));
 };
 
 TEST_F(KsefPrintTest, OneInvoiceIsOneValidFile)
 {
-    const QString file = dir.filePath(QStringLiteral("faktura.xml"));
-    const ProgramRun run = runPrint({QStringLiteral("--db"), db.path(), QStringLiteral("ksef"),
-                                     QString::number(invoice), file});
-    ASSERT_EQ(run.exitCode, 0) << run.errors.toStdString();
-    EXPECT_TRUE(run.errors.isEmpty()) << run.errors.toStdString();
+    const ProgramRun done = run({"ksef", QString::number(invoice), file});
+    ASSERT_EQ(done.exitCode, 0) << done.errors.toStdString();
+    EXPECT_TRUE(done.errors.isEmpty()) << done.errors.toStdString();
     const QByteArray document = fileText(file);
     EXPECT_EQ(KsefSchema().problems(document), QStringList());
     EXPECT_EQ(KsefXml(document).one("Fa/P_2"), "007/07/2026");
@@ -37,40 +39,34 @@ TEST_F(KsefPrintTest, OneInvoiceIsOneValidFile)
 TEST_F(KsefPrintTest, ARefusalIsOneLineAndLeavesNoFile)
 {
     db.exec(QStringLiteral("UPDATE DANE_FIRMY SET NIP = NULL"));
-    const QString file = dir.filePath(QStringLiteral("faktura.xml"));
-    ProgramRun run = runPrint({QStringLiteral("--db"), db.path(), QStringLiteral("ksef"),
-                               QString::number(invoice), file});
-    EXPECT_EQ(run.exitCode, 1);
-    EXPECT_EQ(run.errors, "Faktura 007/07/2026: w danych firmy nie ma NIP-u sprzedawcy. "
-                          "Uzupełnij NIP w danych firmy.\n");
+    ProgramRun done = run({"ksef", QString::number(invoice), file});
+    EXPECT_EQ(done.exitCode, 1);
+    EXPECT_EQ(done.errors, "Faktura 007/07/2026: w danych firmy nie ma NIP-u sprzedawcy. "
+                           "Uzupełnij NIP w danych firmy.\n");
     EXPECT_FALSE(QFile::exists(file));
 
-    run = runPrint({QStringLiteral("--db"), db.path(), QStringLiteral("ksef"),
-                    QStringLiteral("9999"), file});
-    EXPECT_EQ(run.exitCode, 1);
-    EXPECT_EQ(run.errors, "Nie ma faktury o identyfikatorze 9999.\n");
+    done = run({"ksef", "9999", file});
+    EXPECT_EQ(done.exitCode, 1);
+    EXPECT_EQ(done.errors, "Nie ma faktury o identyfikatorze 9999.\n");
 
     // A range goes on past an invoice it cannot export and says so.
-    run = runPrint({QStringLiteral("--db"), db.path(), QStringLiteral("ksef-range"),
-                    QStringLiteral("2026-07-01"), QStringLiteral("2026-07-31"), dir.path()});
-    EXPECT_EQ(run.exitCode, 1);
-    EXPECT_EQ(run.errors.count(u'\n'), 1) << run.errors.toStdString();
+    done = run({"ksef-range", "2026-07-01", "2026-07-31", dir.path()});
+    EXPECT_EQ(done.exitCode, 1);
+    EXPECT_EQ(done.errors.count(u'\n'), 1) << done.errors.toStdString();
     EXPECT_TRUE(QDir(dir.path()).isEmpty());
 }
 
 TEST_F(KsefPrintTest, AWrongCommandLineSaysHowItGoes)
 {
-    ProgramRun run = runPrint({QStringLiteral("--db"), db.path(), QStringLiteral("ksef"),
-                               QStringLiteral("pierwsza"), dir.filePath(QStringLiteral("f.xml"))});
-    EXPECT_EQ(run.exitCode, 2);
-    EXPECT_EQ(run.errors, "Identyfikator musi być dodatnią liczbą całkowitą: pierwsza\n");
+    ProgramRun done = run({"ksef", "pierwsza", file});
+    EXPECT_EQ(done.exitCode, 2);
+    EXPECT_EQ(done.errors, "Identyfikator musi być dodatnią liczbą całkowitą: pierwsza\n");
 
-    run = runPrint({QStringLiteral("--db"), db.path(), QStringLiteral("ksef-range"),
-                    QStringLiteral("2026-07-01"), dir.path()});
-    EXPECT_EQ(run.exitCode, 2);
-    EXPECT_TRUE(run.errors.startsWith("Polecenie ksef-range wymaga argumentów: OD DO KATALOG.\n"
-                                      "Użycie: haulix-print"));
-    EXPECT_TRUE(run.errors.contains("  ksef-range OD DO KATALOG "));
+    done = run({"ksef-range", "2026-07-01", dir.path()});
+    EXPECT_EQ(done.exitCode, 2);
+    EXPECT_TRUE(done.errors.startsWith("Polecenie ksef-range wymaga argumentów: OD DO KATALOG.\n"
+                                       "Użycie: haulix-print"));
+    EXPECT_TRUE(done.errors.contains("  ksef-range OD DO KATALOG "));
 }
 
 TEST(KsefDemoCompany, EveryInvoiceOfTheDemoCompanyIsOneValidFileNamedByItsNumber)
@@ -85,9 +81,7 @@ TEST(KsefDemoCompany, EveryInvoiceOfTheDemoCompanyIsOneValidFileNamedByItsNumber
 
     QTemporaryDir dir;
     const QString target = dir.filePath(QStringLiteral("KSeF"));
-    const ProgramRun run = runPrint({QStringLiteral("--db"), db.path(),
-                                     QStringLiteral("ksef-range"), QStringLiteral("2026-01-01"),
-                                     QStringLiteral("2026-12-31"), target});
+    const ProgramRun run = runPrint(db.path(), {"ksef-range", "2026-01-01", "2026-12-31", target});
     ASSERT_EQ(run.exitCode, 0) << run.errors.toStdString();
     EXPECT_TRUE(run.errors.isEmpty()) << run.errors.toStdString();
     const QStringList files = QDir(target).entryList(QDir::Files, QDir::Name);

@@ -52,22 +52,22 @@ TEST_F(KsefRefusalTest, MissingNipsAndBankAccountNameTheRecordToCompleteAndWrite
     EXPECT_TRUE(QDir(dir.path()).isEmpty());
 }
 
-TEST_F(KsefRefusalTest, ACorrectionIsNotExportedAsAnInvoice)
+TEST_F(KsefRefusalTest, ACorrectionOrARateTheStructureHasNoFieldForIsNamed)
 {
+    const QString path = target(QStringLiteral("f.xml"));
     db.exec(QStringLiteral("INSERT INTO DOKUMENTY (NAZWA) VALUES ('Faktura VAT korygująca')"));
     db.exec(QStringLiteral("UPDATE FAKTURY SET ID_RODZAJ_DOK = 2"));
-    EXPECT_EQ(refusal(target(QStringLiteral("f.xml"))),
+    EXPECT_EQ(refusal(path),
               "Faktura 007/07/2026: dokument „Faktura VAT korygująca” jest korektą, a program "
               "nie przechowuje danych faktury korygowanej. E-faktury nie utworzono.");
-}
 
-TEST_F(KsefRefusalTest, ARateTheStructureHasNoFieldForIsNamed)
-{
+    db.exec(QStringLiteral("UPDATE FAKTURY SET ID_RODZAJ_DOK = 1"));
     db.exec(QStringLiteral("INSERT INTO STAWKI_VAT (OPIS, PROCENT) VALUES ('19% DE', 0.19)"));
     addPosition(invoice, QStringLiteral("Przewóz po Niemczech"), 1, 100, 7);
-    EXPECT_EQ(refusal(target(QStringLiteral("f.xml"))),
+    EXPECT_EQ(refusal(path),
               "Faktura 007/07/2026: stawki VAT „19% DE” pozycji „Przewóz po Niemczech” nie ma "
               "w strukturze FA(3). Popraw stawkę w tabeli stawek VAT.");
+    EXPECT_FALSE(QFile::exists(path));
 }
 
 TEST_F(KsefRefusalTest, ADocumentTheSchemaRefusesNamesTheElementAndLeavesAnEarlierFile)

@@ -1,4 +1,5 @@
-// The statement of issued invoices and the partners report out of haulix-print.
+// The statements, the statement of issued invoices and the partners report
+// written to PDF files by haulix-print and read back.
 #include "PopplerText.h"
 #include "ProgramRun.h"
 #include "ReportsFixture.h"
@@ -8,7 +9,16 @@
 class HaulixPrintReports : public ReportsFixture
 {
 protected:
-    void SetUp() override
+    // Runs haulix-print without a display on the test's database into the file.
+    ProgramRun print(const QString &name, const QStringList &arguments)
+    {
+        return ProgramRun::of(QStringLiteral(HAULIX_PRINT_PATH),
+                              QStringList{"--db", db.path(), name} + arguments + QStringList{file});
+    }
+
+    // Order 11 of March by the company itself on FV-WLASNA, order 12 abroad
+    // by another carrier on FV-OBCA.
+    void ownAndOtherInvoices()
     {
         const int own = addInvoice({.sequence = 1, .number = QStringLiteral("FV-WLASNA"),
                                     .lines = {{.price = 10.0}}});
@@ -19,19 +29,50 @@ protected:
                   .cost = 300.0, .abroad = true, .partner = 2});
     }
 
-    ProgramRun print(const QString &name, QStringList arguments)
-    {
-        return ProgramRun::of(QStringLiteral(HAULIX_PRINT_PATH),
-                              QStringList{QStringLiteral("--db"), db.path(), name} << arguments
-                                                                                  << file);
-    }
-
     QTemporaryDir dir;
     QString file = dir.filePath(QStringLiteral("raport.pdf"));
 };
 
+TEST_F(HaulixPrintReports, EachStatementIsAPdfOfItsPeriod)
+{
+    seedCompany();
+    // Order 3 on the invoice 002/03/2026.
+    db.exec(QStringLiteral("UPDATE ZLECENIA_PRZYCH SET IDFAKTURY = 2 WHERE NUMER = 3"));
+    const struct
+    {
+        const char *job;
+        QStringList options;
+        QStringList expected;
+    } jobs[] = {
+        {"statement-clients", {}, {"Kontrahent: BETA", "Kontrahent: ALFA", "30,8 %"}},
+        {"statement-carriers", {"--carrier", QString::number(cargoY)}, {"CY/7", "100,00"}},
+        {"statement-rate-differences", {}, {"002/03/2026", "przewoźnicy obcy"}},
+        {"statement-user-rates", {}, {"Spedytor: anna", "Spedytor: bartek", "30,8 %"}},
+        {"statement-user-invoices", {}, {"001/03/2026", "002/03/2026", "978,65"}},
+        {"statement-user-carrier-invoices", {"--user", QString::number(bartek)}, {"ZW/1"}},
+    };
+    for (const auto &job : jobs) {
+        const ProgramRun run = print(QString::fromLatin1(job.job),
+                                     QStringList{"2026-03-01", "2026-03-31"} + job.options);
+        ASSERT_EQ(run.exitCode, 0) << job.job << run.errors.toStdString();
+        const QString text = Poppler::text(file);
+        EXPECT_TRUE(text.contains(Company)) << job.job;
+        EXPECT_TRUE(text.contains(QStringLiteral("od 2026-03-01 do 2026-03-31"))) << job.job;
+        for (const QString &expected : job.expected)
+            EXPECT_TRUE(text.contains(expected))
+                << job.job << ": " << expected.toStdString() << "\n" << text.toStdString();
+    }
+
+    const ProgramRun wrongWayRound
+        = print(QStringLiteral("statement-clients"), {"2026-03-31", "2026-03-01"});
+    EXPECT_TRUE(
+        wrongWayRound.errors.contains("Początek okresu jest późniejszy niż jego koniec."))
+        << wrongWayRound.errors.toStdString();
+}
+
 TEST_F(HaulixPrintReports, TheStatementOfOtherOrOwnCarriersInvoices)
 {
+    ownAndOtherInvoices();
     ProgramRun run = print(QStringLiteral("invoices-statement"), {"2026-03-01", "2026-03-31"});
     ASSERT_EQ(run.exitCode, 0) << run.errors.toStdString();
     QString text = Poppler::text(file);
@@ -48,8 +89,9 @@ TEST_F(HaulixPrintReports, TheStatementOfOtherOrOwnCarriersInvoices)
 
 TEST_F(HaulixPrintReports, ThePartnersReportByPartnerRegionAndCarrier)
 {
+    ownAndOtherInvoices();
     ProgramRun run = print(QStringLiteral("partners"),
-                         {"2026-03-01", "2026-03-31", "--partner", "2", "--foreign", "--others"});
+                           {"2026-03-01", "2026-03-31", "--partner", "2", "--foreign", "--others"});
     ASSERT_EQ(run.exitCode, 0) << run.errors.toStdString();
     EXPECT_EQ(Poppler::info(file, QStringLiteral("size"), 1),
               QStringLiteral("842 x 595 pts (A4)"));

@@ -1,5 +1,5 @@
-// What the partners report selects, without a widget.
-#include "PartnersLine.h"
+// What the partners report selects, without a widget; its margins are read
+// from its pages.
 #include "PartnersSelection.h"
 #include "ReportsFixture.h"
 #include "Statement.h"
@@ -28,32 +28,6 @@ protected:
                   .rate = 100.0 * number, .abroad = abroad, .partner = partner});
     }
 };
-
-TEST_F(PartnersSelectionTest, TheStatementIsBuiltLineByLine)
-{
-    PartnersSelection s = partnersOfMarch();
-    Statement st(db.connection());
-    s.prepare(st, QStringLiteral("ŻURAW"));
-    EXPECT_EQ(st.lines(), QStringList({"select * from VRAPORT_WSPOLNICY",
-                                       "WHERE fak_dwyst between :d1 and :d2",
-                                       "ORDER BY fak_dwyst"}));
-    s.region = PartnersSelection::Domestic;
-    s.executor = PartnersSelection::OwnCompany;
-    s.partner = 12;
-    s.prepare(st, QStringLiteral("ŻURAW"));
-    EXPECT_EQ(st.lines(), QStringList({"select * from VRAPORT_WSPOLNICY",
-                                       "WHERE fak_dwyst between :d1 and :d2", "AND KRAJ=1",
-                                       " AND PRZEWOZNIK=:APRZ ", " AND IDFILTR1=12",
-                                       "ORDER BY fak_dwyst"}));
-    s.region = PartnersSelection::Foreign;
-    s.executor = PartnersSelection::OtherCarriers;
-    s.partner = 0;
-    s.prepare(st, QStringLiteral("ŻURAW"));
-    EXPECT_EQ(st.lines(), QStringList({"select * from VRAPORT_WSPOLNICY",
-                                       "WHERE fak_dwyst between :d1 and :d2", "AND KRAJ=0",
-                                       " AND PRZEWOZNIK<>:APRZ ", " AND IDFILTR1=0",
-                                       "ORDER BY fak_dwyst"}));
-}
 
 TEST_F(PartnersSelectionTest, TheTitleNamesThePartnerUnlessAllAreShownAndTheRegion)
 {
@@ -135,17 +109,4 @@ TEST(PartnersSelection, AMonthBackKeepsTheDayOrTakesTheMonthsLast)
     EXPECT_EQ(PartnersSelection::monthBefore(QDate(2026, 3, 31)), QDate(2026, 2, 28));
     EXPECT_EQ(PartnersSelection::monthBefore(QDate(2024, 3, 30)), QDate(2024, 2, 29));
     EXPECT_EQ(PartnersSelection::monthBefore(QDate(2026, 1, 31)), QDate(2025, 12, 31));
-}
-
-TEST(PartnersLine, TheMarginIsOnCostAndNoneWithoutCost)
-{
-    const PartnersLine line{1250.0, 1000.0};
-    EXPECT_DOUBLE_EQ(line.profit(), 250.0);
-    EXPECT_DOUBLE_EQ(line.margin(), 25.0);
-    EXPECT_DOUBLE_EQ(line.halfMargin(), 12.5);
-    EXPECT_DOUBLE_EQ(line.half(), 125.0);
-    const PartnersLine free{800.0, 0.0};
-    EXPECT_DOUBLE_EQ(free.margin(), 0.0);
-    EXPECT_DOUBLE_EQ(free.halfMargin(), 0.0);
-    EXPECT_DOUBLE_EQ(free.half(), 400.0);
 }

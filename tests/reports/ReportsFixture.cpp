@@ -60,6 +60,7 @@ int ReportsFixture::addInvoice(const Invoice &invoice)
     record.DATA_WYSTAWIENIA = DateTime::fromDate(invoice.issued);
     record.DATA_SPRZEDAZY = DateTime::fromDate(invoice.sold);
     record.ILOSC_DNI_PLATN = invoice.days;
+    record.ID_WYSTAWIL = invoice.user;
     EXPECT_TRUE(record.Insert());
     const int key = TestData::lastKey(c, QStringLiteral("FAKTURY"), QStringLiteral("ID_FAKTURY"));
     TFaktury_pozycjeObj line(c);
@@ -128,29 +129,6 @@ int ReportsFixture::addStatementOrder(const StatementOrder &order)
     return o.ID_ZLECENIA_PRZYCH;
 }
 
-int ReportsFixture::addInvoice(const QString &number, int kind, const QDate &issued, int user,
-                               int client, std::initializer_list<Position> positions)
-{
-    TFakturyObj invoice(db.connection());
-    invoice.NUMER_PELNY = number;
-    invoice.ID_RODZAJ_DOK = kind;
-    invoice.DATA_WYSTAWIENIA = DateTime::fromDate(issued);
-    invoice.ID_WYSTAWIL = user;
-    invoice.ID_KONTRAHENTA = client;
-    EXPECT_TRUE(invoice.Insert());
-    const int key = invoice.GetMaxId();
-    TFaktury_pozycjeObj position(db.connection());
-    for (const Position &p : positions) {
-        position.ID_FAKTURY = key;
-        position.TRESC = QStringLiteral("Usługa transportowa");
-        position.ILOSC = p.quantity;
-        position.CENA_NETTO = p.price;
-        position.ID_VAT = 1;
-        EXPECT_TRUE(position.Insert());
-    }
-    return key;
-}
-
 void ReportsFixture::seedCompany()
 {
     const auto day = [](int month, int day) { return QDate(2026, month, day); };
@@ -171,9 +149,13 @@ void ReportsFixture::seedCompany()
               .amount = 999.0, .cost = 900.0});
     add({.number = 6, .day = day(2, 20), .client = beta, .carrier = cargoY, .user = anna,
               .amount = 800.0, .cost = 500.0});
-    addInvoice(QStringLiteral("001/03/2026"), 1, day(3, 5), anna, alfa,
-               {{1.0, 1235.0}, {2.0, 10.005}});
-    addInvoice(QStringLiteral("002/03/2026"), 1, day(3, 20), bartek, beta, {{1.0, 3000.0}});
-    addInvoice(QStringLiteral("K/03/2026"), 2, day(3, 21), bartek, beta, {{1.0, 50.0}});
-    addInvoice(QStringLiteral("001/04/2026"), 1, day(4, 2), anna, alfa, {{1.0, 70.0}});
+    const auto invoice = [this](const char *number, int kind, QDate issued, int user, int client,
+                                std::vector<Line> lines) {
+        addInvoice({.number = number, .client = client, .issued = issued, .kind = kind,
+                    .user = user, .lines = lines});
+    };
+    invoice("001/03/2026", 1, day(3, 5), anna, alfa, {{1.0, 1235.0}, {2.0, 10.005}});
+    invoice("002/03/2026", 1, day(3, 20), bartek, beta, {{1.0, 3000.0}});
+    invoice("K/03/2026", 2, day(3, 21), bartek, beta, {{1.0, 50.0}});
+    invoice("001/04/2026", 1, day(4, 2), anna, alfa, {{1.0, 70.0}});
 }

@@ -7,7 +7,6 @@
 #include <QDate>
 #include <QString>
 
-#include <initializer_list>
 #include <vector>
 
 // A small forwarding company with Polish and German cities, VAT rates of
@@ -40,6 +39,7 @@ protected:
         QDate sold = QDate(2026, 3, 9);
         int days = 14;
         int kind = 1;      // ID_RODZAJ_DOK
+        int user = 0;      // ID_WYSTAWIL
         std::vector<Line> lines = {};
     };
     // Returns the invoice's key.
@@ -82,15 +82,6 @@ protected:
         double carrierPaidAmount = 0.0;
     };
     int addStatementOrder(const StatementOrder &order);
-
-    struct Position
-    {
-        double quantity = 1.0;
-        double price = 0.0;
-    };
-    // An invoice issued by a user, its positions at 23 %.
-    int addInvoice(const QString &number, int kind, const QDate &issued, int user, int client,
-                   std::initializer_list<Position> positions);
 
     // The orders and invoices every statement's test reads:
     //   1 ALFA  2026-03-02 anna   TRANS-X  KWOTA 1234,56 (revenue 1 235,00) cost 1 000

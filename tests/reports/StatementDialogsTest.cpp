@@ -50,9 +50,13 @@ protected:
     ReportOutputs::Scoped<PdfFileReportOutput> files{dir.path()};
 };
 
-TEST_F(StatementDialogs, TheClientsDialogOffersTheSelectedClientAndTheCurrentMonth)
+TEST_F(StatementDialogs, TheClientsDialogOffersTheSelectedClientAndPreviewsTheChosenOne)
 {
     seedCompany();
+    const auto all = open<TfrmWyborKontrachentDaty>(0);
+    EXPECT_TRUE(all->cbWszyscy->isChecked());
+    EXPECT_FALSE(all->cbWybor->isEnabled());
+
     const auto dialog = open<TfrmWyborKontrachentDaty>(beta);
     EXPECT_EQ(dialog->lblHeader->text(), "Kwoty dla kontrahenta - przychód, zysk");
     EXPECT_EQ(dialog->cbWybor->currentText(), "BETA");
@@ -61,15 +65,6 @@ TEST_F(StatementDialogs, TheClientsDialogOffersTheSelectedClientAndTheCurrentMon
     EXPECT_EQ(dialog->deOd->date(), month.from);
     EXPECT_EQ(dialog->deDo->date(), month.to);
 
-    const auto all = open<TfrmWyborKontrachentDaty>(0);
-    EXPECT_TRUE(all->cbWszyscy->isChecked());
-    EXPECT_FALSE(all->cbWybor->isEnabled());
-}
-
-TEST_F(StatementDialogs, OkPreviewsTheChosenClientsStatementOfTheTypedPeriod)
-{
-    seedCompany();
-    const auto dialog = open<TfrmWyborKontrachentDaty>(beta);
     chooseMarch(*dialog);
     ASSERT_EQ(dialog->period().from, QDate(2026, 3, 1));
     ASSERT_EQ(dialog->period().to, QDate(2026, 3, 31));

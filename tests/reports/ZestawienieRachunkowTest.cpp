@@ -85,14 +85,9 @@ TEST_F(ZestawienieRachunkow, ALineOfEachInvoiceInSequenceOrderAndTheSumsUnderThe
                                 "2026-03-12", Zero, "230,00", "1230,00", "2026-04-11",
                                 "RAZEM:", "1100,00", "253,00", "100,00", "1353,00"}))
         << texts.join(u'|').toStdString();
-    EXPECT_DOUBLE_EQ(report.sumNetto(), 1100.0);
-    EXPECT_DOUBLE_EQ(report.sumOplataSkarbowa(), 100.0);
 
     // Printing again, as from the preview, starts the sums afresh.
-    const QStringList again = printed(report.qrZestawienie().prepare());
-    EXPECT_EQ(again, texts);
-    EXPECT_DOUBLE_EQ(report.sumBrutto(), 1353.0);
-    EXPECT_DOUBLE_EQ(report.sumVat(), 253.0);
+    EXPECT_EQ(printed(report.qrZestawienie().prepare()), texts);
 }
 
 class WystawioneFaktury : public ZestawienieRachunkow
