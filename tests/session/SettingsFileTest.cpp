@@ -30,33 +30,24 @@ protected:
 
 } // namespace
 
-TEST_F(SettingsFileTest, ASingleUpperCaseIniArgumentNamesTheFile)
+TEST_F(SettingsFileTest, AnIniArgumentThenTheFileBesideTheProgramThenTheSystemOne)
 {
+    // Only a single upper-case .INI argument names the file.
     EXPECT_EQ(SettingsFile::fileName(host({QStringLiteral("/srv/FIRMA2.INI")})),
               QStringLiteral("/srv/FIRMA2.INI"));
-}
-
-TEST_F(SettingsFileTest, OtherArgumentsAreIgnored)
-{
     const QString system = path(QStringLiteral("etc/Haulix.ini"));
     EXPECT_EQ(SettingsFile::fileName(host({QStringLiteral("/srv/firma2.ini")})), system);
     EXPECT_EQ(SettingsFile::fileName(host({QStringLiteral("A.INI"), QStringLiteral("B.INI")})),
               system);
     EXPECT_EQ(SettingsFile::fileName(host({})), system);
-}
+    // A system directory with a separator gets no second one.
+    EXPECT_EQ(SettingsFile::fileName({{}, path(QStringLiteral("bin")), QStringLiteral("/etc/")}),
+              QStringLiteral("/etc/Haulix.ini"));
 
-TEST_F(SettingsFileTest, TheFileBesideTheExecutableComesBeforeTheSystemOne)
-{
     ASSERT_TRUE(QDir(m_dir.path()).mkdir(QStringLiteral("bin")));
     const QString beside = path(QStringLiteral("bin/Haulix.ini"));
     touch(beside);
     EXPECT_EQ(SettingsFile::fileName(host({})), beside);
-}
-
-TEST_F(SettingsFileTest, ASystemDirectoryWithASeparatorGetsNoSecondOne)
-{
-    const HostEnvironment environment{{}, path(QStringLiteral("bin")), QStringLiteral("/etc/")};
-    EXPECT_EQ(SettingsFile::fileName(environment), QStringLiteral("/etc/Haulix.ini"));
 }
 
 TEST_F(SettingsFileTest, AMissingAppPathIsWrittenFromTheExecutableDirectory)

@@ -31,21 +31,13 @@ TEST_F(TDaneFirmyTest, LoadsTheCompanyDataOnCreation)
         "'Trans-Żuraw Sp. z o.o.', '80-180', 'Gdańsk', 'ul. Przemysłowa 4', 'skr. 12', "
         "'584-000-11-22', '190000000', 'tel. 58 300 00 00', 'biuro@example.pl', 'Gdańsk', "
         "'pomorskie', 'PL5840001122', 'PL3')"));
-    const TDaneFirmy firma(context);
-    EXPECT_EQ(firma.NAZWA, QStringLiteral("Trans-Żuraw Sp. z o.o."));
-    EXPECT_EQ(firma.KOD, QStringLiteral("80-180"));
-    EXPECT_EQ(firma.MIEJSCOWOSC, QStringLiteral("Gdańsk"));
-    EXPECT_EQ(firma.ADRES, QStringLiteral("ul. Przemysłowa 4"));
-    EXPECT_EQ(firma.POBOX, QStringLiteral("skr. 12"));
-    EXPECT_EQ(firma.NIP, QStringLiteral("584-000-11-22"));
-    EXPECT_EQ(firma.REGON, QStringLiteral("190000000"));
-    EXPECT_EQ(firma.KONTAKT1, QStringLiteral("tel. 58 300 00 00"));
-    EXPECT_EQ(firma.KONTAKT2, QString());
-    EXPECT_EQ(firma.KONTAKT6, QStringLiteral("biuro@example.pl"));
-    EXPECT_EQ(firma.MIEJSCE_WYSTAWIANIA, QStringLiteral("Gdańsk"));
-    EXPECT_EQ(firma.WOJEWODZTWO, QStringLiteral("pomorskie"));
-    EXPECT_EQ(firma.EURONIP_1, QStringLiteral("PL5840001122"));
-    EXPECT_EQ(firma.EURONIP_3, QStringLiteral("PL3"));
+    const TDaneFirmy f(context);
+    EXPECT_EQ((QStringList{f.NAZWA, f.KOD, f.MIEJSCOWOSC, f.ADRES, f.POBOX, f.NIP, f.REGON,
+                           f.KONTAKT1, f.KONTAKT2, f.KONTAKT6, f.MIEJSCE_WYSTAWIANIA,
+                           f.WOJEWODZTWO, f.EURONIP_1, f.EURONIP_3}),
+              (QStringList{"Trans-Żuraw Sp. z o.o.", "80-180", "Gdańsk", "ul. Przemysłowa 4",
+                           "skr. 12", "584-000-11-22", "190000000", "tel. 58 300 00 00", "",
+                           "biuro@example.pl", "Gdańsk", "pomorskie", "PL5840001122", "PL3"}));
 }
 
 TEST_F(TDaneFirmyTest, WithoutCompanyDataOrDatabaseTheTextsStayEmpty)
@@ -64,7 +56,7 @@ TEST_F(TDaneFirmyTest, WorkstationNamesKeepTheirLimits)
     EXPECT_LE(TDaneFirmy::GetLoginName().size(), 51);
 }
 
-TEST_F(TDaneFirmyTest, WriteHistoryStoresOneCommittedRow)
+TEST_F(TDaneFirmyTest, WriteHistoryStoresOneCommittedRowOfTheValuesAsText)
 {
     const TDaneFirmy firma(context);
     const double before = DateTime::now().days();
@@ -83,16 +75,13 @@ TEST_F(TDaneFirmyTest, WriteHistoryStoresOneCommittedRow)
     EXPECT_EQ(st.string(QStringLiteral("COMPUSER")), TDaneFirmy::GetLoginName());
     // Stored to the millisecond, read back within a minute of the call.
     EXPECT_LT(std::fabs(st.dateTime(QStringLiteral("CZAS")).days() - before), 1.0 / 1440);
-}
 
-TEST_F(TDaneFirmyTest, WriteHistoryTakesASingleValueAsItsText)
-{
-    const TDaneFirmy firma(context);
+    // A single value is its text; a list is joined by commas.
     EXPECT_TRUE(firma.WriteHistory(QVariant(42), 1, 0));
     EXPECT_TRUE(firma.WriteHistory(QStringList{QStringLiteral("a"), QStringLiteral("b")}, 2, 0));
     EXPECT_EQ(db.scalar(QStringLiteral("SELECT LIST(HISTORY_PARAMS, '|') FROM "
                                        "(SELECT HISTORY_PARAMS FROM HISTORY ORDER BY ID_HISTORY)")),
-              QStringLiteral("42|a,b"));
+              QStringLiteral("12,Gdańsk,2.5|42|a,b"));
 }
 
 TEST_F(TDaneFirmyTest, WriteHistoryInsideARunningTransactionLeavesItToTheCaller)
@@ -197,7 +186,7 @@ TEST_F(ConvertCurrencyTest, TheDomesticCurrencyNeedsNoTable)
     EXPECT_EQ(tableNumber, QStringLiteral("przed"));
 }
 
-TEST_F(ConvertCurrencyTest, TakesTheLatestTableOnOrBeforeTheDate)
+TEST_F(ConvertCurrencyTest, TakesTheLatestTableOnOrBeforeTheDateAndRoundsHalfCentsToEven)
 {
     const TDaneFirmy firma(context);
     const double result =
@@ -215,11 +204,9 @@ TEST_F(ConvertCurrencyTest, TakesTheLatestTableOnOrBeforeTheDate)
                                            1000.0),
                      11.0);
     EXPECT_EQ(quantity, 100);
-}
 
-TEST_F(ConvertCurrencyTest, RoundsHalfCentsToTheEvenCent)
-{
-    const TDaneFirmy firma(context);
+    // Half cents go to the even cent.
+    tableID = 0;
     EXPECT_DOUBLE_EQ(firma.ConvertCurrency(tableID, Quarter, date, quantity, rate, 20, tableNumber,
                                            0.5),
                      0.12);
