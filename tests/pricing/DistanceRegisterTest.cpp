@@ -60,10 +60,9 @@ protected:
 
 } // namespace
 
-TEST_F(DistanceRegister, OpensOnTheHomeCityWhateverItsLetterCase)
+TEST_F(DistanceRegister, OpensOnTheHomeCityWhateverItsLetterCaseAndListsRoutesByStart)
 {
     auto form = open();
-    EXPECT_EQ(form->windowTitle(), "Miasta");
     EXPECT_EQ(form->CBMiasta->itemText(0), "---");
     EXPECT_EQ(form->CBMiasta->count(), 4);
     EXPECT_EQ(form->CBMiasta->currentText(), "Łódź");
@@ -72,50 +71,20 @@ TEST_F(DistanceRegister, OpensOnTheHomeCityWhateverItsLetterCase)
     const int row = list(*form).findByKey(toKrakow);
     EXPECT_EQ(list(*form).items().texts(row),
               (QStringList{QString::number(krakow), "Kraków", "30-001", "270"}));
-}
-
-TEST_F(DistanceRegister, OnlyEditAndDeleteRemainOfTheFramesButtons)
-{
-    auto form = open();
+    // Only edit and delete remain of the frame's buttons.
     TframeListView &frame = *form->frameListView1;
     for (TBitBtn *hidden : {frame.BitBtn1, frame.BitBtn2, frame.BitBtn5, frame.BitBtn7})
         EXPECT_FALSE(hidden->isVisibleTo(form.get())) << hidden->objectName().toStdString();
     EXPECT_TRUE(frame.BitBtn4->isVisibleTo(form.get()));
     EXPECT_TRUE(frame.BitBtn6->isVisibleTo(form.get()));
-}
 
-TEST_F(DistanceRegister, NoCityListsNoRoutesAndARouteIsListedUnderItsStartOnly)
-{
-    auto form = open();
+    // No city lists no routes, and a route is listed under its start only.
     choose(*form, QStringLiteral("---"));
     EXPECT_EQ(list(*form).itemCount(), 0);
     choose(*form, QStringLiteral("Gdańsk"));
     EXPECT_EQ(list(*form).itemCount(), 0);
     choose(*form, QStringLiteral("Kraków"));
     EXPECT_EQ(destinations(*form), QStringList{"Gdańsk"});
-}
-
-TEST_F(DistanceRegister, EditingChangesOnlyTheDistance)
-{
-    auto form = open();
-    const int row = list(*form).findByKey(toGdansk);
-    list(*form).setSelectedIndex(row);
-    scriptedModalRunner().expect<TfrmAddEditMiasta>([](TfrmAddEditMiasta &e) {
-        EXPECT_EQ(e.edMiastoOd->text(), "Łódź");
-        EXPECT_EQ(e.edMiastoDo->text(), "Gdańsk");
-        EXPECT_TRUE(e.edMiastoOd->isReadOnly());
-        EXPECT_EQ(e.edOdleglosc->value(), 340);
-        e.edOdleglosc->setValue(345);
-        e.btnOk->click();
-        return e.result();
-    });
-    form->frameListView1->BitBtn4->click();
-    EXPECT_EQ(db.scalar(QStringLiteral("SELECT ODLEGLOSC || '/' || IDMIASTAOD || '/' || IDMIASTADO "
-                                       "FROM ODLEGLOSCI WHERE ID_ODLEGLOSCI = %1")
-                            .arg(toGdansk)),
-              QStringLiteral("345/%1/%2").arg(lodz).arg(gdansk));
-    EXPECT_EQ(list(*form).selectedIndex(), row);
-    EXPECT_EQ(list(*form).text(row, 3), "345");
 }
 
 TEST_F(DistanceRegister, DeletingWithTheMonitorFlagWritesTheHistory)
@@ -181,13 +150,17 @@ TEST_F(DistanceRegister, EscClosesTheRegisterAndTheDistanceEditorWithoutSaving)
     EXPECT_EQ(form->result(), TfrmRODefault::mrCancel);
 }
 
-TEST_F(DistanceRegister, TheDistanceEditorStartsInTheDistanceAndSavesWhatIsTyped)
+TEST_F(DistanceRegister, TheDistanceEditorStartsInTheDistanceAndChangesOnlyWhatIsTyped)
 {
     auto form = open();
     Typing::activate(form.get());
     scriptedModalRunner().expect<TfrmAddEditMiasta>([](TfrmAddEditMiasta &d) {
         Typing::activate(&d);
         // The cities only show the route; the distance is what is typed.
+        EXPECT_EQ(d.edMiastoOd->text(), "Łódź");
+        EXPECT_EQ(d.edMiastoDo->text(), "Gdańsk");
+        EXPECT_TRUE(d.edMiastoOd->isReadOnly());
+        EXPECT_EQ(d.edOdleglosc->value(), 340);
         EXPECT_EQ(QApplication::focusWidget(), d.edOdleglosc);
         Typing::keys(QStringLiteral("-3abc15"));
         EXPECT_EQ(d.edOdleglosc->text(), "315");
@@ -198,10 +171,14 @@ TEST_F(DistanceRegister, TheDistanceEditorStartsInTheDistanceAndSavesWhatIsTyped
         return d.result();
     });
     list(*form).setFocus();
-    list(*form).setSelectedIndex(list(*form).findByKey(toGdansk));
+    const int row = list(*form).findByKey(toGdansk);
+    list(*form).setSelectedIndex(row);
     Typing::press(Qt::Key_Return);
     EXPECT_TRUE(scriptedModalRunner().allRun());
-    EXPECT_EQ(db.scalar(QStringLiteral("SELECT ODLEGLOSC FROM ODLEGLOSCI WHERE ID_ODLEGLOSCI = %1")
+    EXPECT_EQ(db.scalar(QStringLiteral("SELECT ODLEGLOSC || '/' || IDMIASTAOD || '/' || IDMIASTADO "
+                                       "FROM ODLEGLOSCI WHERE ID_ODLEGLOSCI = %1")
                             .arg(toGdansk)),
-              "315");
+              QStringLiteral("315/%1/%2").arg(lodz).arg(gdansk));
+    EXPECT_EQ(list(*form).selectedIndex(), row);
+    EXPECT_EQ(list(*form).text(row, 3), "315");
 }

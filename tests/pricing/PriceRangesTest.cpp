@@ -45,23 +45,18 @@ protected:
 
 } // namespace
 
-TEST_P(PriceRangesTest, UpperBoundsInAnyOrderBecomeContiguousRanges)
+TEST_P(PriceRangesTest, UpperBoundsInAnyOrderBecomeContiguousRangesRenumberedOnChange)
 {
     const int middle = add(100);
     add(50);
-    add(200);
+    const int last = add(200);
     EXPECT_EQ(ranges(), (QStringList{"0-50", "51-100", "101-200"}));
     const PriceRange loaded = PriceRanges::load(db.connection(), axis(), middle);
     EXPECT_EQ(loaded.key, middle);
     EXPECT_EQ(loaded.from, 51);
     EXPECT_EQ(loaded.to, 100);
-}
 
-TEST_P(PriceRangesTest, ChangingOrRemovingARangeRenumbersTheAxis)
-{
-    add(50);
-    const int middle = add(100);
-    const int last = add(200);
+    // Changing or removing a range renumbers the axis.
     PriceRanges::change(db.connection(), axis(), middle, 150);
     EXPECT_EQ(ranges(), (QStringList{"0-50", "51-150", "151-200"}));
     PriceRanges::remove(db.connection(), axis(), middle);

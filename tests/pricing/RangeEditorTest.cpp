@@ -80,21 +80,10 @@ const QStringList ThreeRanges{"0-50", "51-100", "101-200"};
 
 } // namespace
 
-TEST_F(RangeEditor, OpensWithThreePagesAndNoAuthorWarnings)
-{
-    auto form = open();
-    EXPECT_EQ(form->windowTitle(), "Edycja wierszy i kolumn");
-    EXPECT_EQ(form->lblHeaderDescription->text(), "Cenniki");
-    EXPECT_EQ(form->btnCancel->text(), "&Zamknij");
-    EXPECT_EQ(form->btnDodajWiersz->text(), "&Dodaj");
-    EXPECT_EQ(form->btnUsunKolumne->text(), "Usuń");
-    EXPECT_EQ(form->lvGrupy->columnCaption(1), "Blokada");
-    EXPECT_TRUE(scriptedMessages().shown().empty());
-}
-
 TEST_F(RangeEditor, UpperBoundsInAnyOrderBecomeContiguousRanges)
 {
     auto form = open();
+    EXPECT_TRUE(scriptedMessages().shown().empty());
     for (int bound : {100, 50, 200}) {
         enter(bound);
         form->btnDodajWiersz->click();
@@ -105,27 +94,17 @@ TEST_F(RangeEditor, UpperBoundsInAnyOrderBecomeContiguousRanges)
     EXPECT_EQ(form->lvWiersze->text(form->lvWiersze->selectedIndex(), 1), "200");
 }
 
-TEST_F(RangeEditor, TheDialogShowsTheUnitOfItsAxis)
-{
-    auto form = open();
-    scriptedModalRunner().expect<TfrmAddEditCennikWierszeKolumny>(
-        [](TfrmAddEditCennikWierszeKolumny &d) {
-            d.edWartosc->setValue(12000);
-            EXPECT_EQ(d.edWartosc->text(), QStringLiteral("12\u00a0000 kg"));
-            EXPECT_EQ(d.windowTitle(), "Edycja");
-            return 2;
-        });
-    form->btnDodajKolumne->click();
-    EXPECT_EQ(db.count(QStringLiteral("CENNIKI_KRAJ_KOLUMNY")), 0);
-}
-
-TEST_F(RangeEditor, ADuplicateUpperBoundIsRefusedAndTheDialogStaysOpen)
+TEST_F(RangeEditor, ADuplicateUpperBoundIsRefusedAndADoubleClickCorrectsARange)
 {
     addKilogramRange(db.connection(), 0, 1000);
     auto form = open();
     scriptedMessages().expect();
     scriptedModalRunner().expect<TfrmAddEditCennikWierszeKolumny>(
         [](TfrmAddEditCennikWierszeKolumny &d) {
+            // The dialog shows the unit of its axis.
+            d.edWartosc->setValue(12000);
+            EXPECT_EQ(d.edWartosc->text(), QStringLiteral("12\u00a0000 kg"));
+            EXPECT_EQ(d.windowTitle(), "Edycja");
             d.edWartosc->setValue(1000);
             d.btnOk->click();
             EXPECT_TRUE(d.isVisible());
@@ -139,6 +118,20 @@ TEST_F(RangeEditor, ADuplicateUpperBoundIsRefusedAndTheDialogStaysOpen)
     EXPECT_EQ(box.text, "Pozycja z taką wartością już istnieje! Zapis do bazy niemożliwy.");
     EXPECT_EQ(box.icon, MessageService::Icon::None);
     EXPECT_EQ(db.count(QStringLiteral("CENNIKI_KRAJ_KOLUMNY")), 1);
+
+    // A double click on the range opens it for correction.
+    form->show();
+    form->PageControl1->setCurrentWidget(form->tsKilogramy);
+    TListView &list = *form->lvKolumny;
+    list.setSelectedIndex(0);
+    scriptedModalRunner().expect<TfrmAddEditCennikWierszeKolumny>(
+        [](TfrmAddEditCennikWierszeKolumny &d) {
+            EXPECT_EQ(d.value(), 1000);
+            return 2;
+        });
+    const QRect row = list.visualRect(list.model()->index(0, 0));
+    QTest::mouseDClick(list.viewport(), Qt::LeftButton, {}, row.center());
+    EXPECT_TRUE(scriptedModalRunner().allRun());
 }
 
 TEST_F(RangeEditor, EditingKeepsAnUnchangedBoundRefusesAnotherRangesAndRenumbers)
@@ -164,41 +157,33 @@ TEST_F(RangeEditor, EditingKeepsAnUnchangedBoundRefusesAnotherRangesAndRenumbers
     EXPECT_EQ(form->lvWiersze->text(form->lvWiersze->selectedIndex(), 1), "150");
 }
 
-TEST_F(RangeEditor, ARangeUsedByACellIsNotDeleted)
+TEST_F(RangeEditor, ARangeUsedByACellStaysAnUnusedOneIsDeletedAfterAskingAndRenumbers)
 {
-    const int used = addKilometreRange(db.connection(), 0, 50);
-    addKilometreRange(db.connection(), 51, 100);
+    addKilometreRange(db.connection(), 0, 50);
+    const int used = addKilometreRange(db.connection(), 51, 100);
     addKilometreRange(db.connection(), 101, 200);
     const int column = addKilogramRange(db.connection(), 0, 1000);
     addCell(db.connection(), {.group = 0, .row = used, .column = column, .amount = 120.0});
     auto form = open();
 
-    select(*form->lvWiersze, QStringLiteral("50"));
+    select(*form->lvWiersze, QStringLiteral("100"));
     scriptedMessages().expect();
     form->btnUsunWiersz->click();
-    const auto &refusal = scriptedMessages().shown().back();
+    const auto refusal = scriptedMessages().shown().back();
     EXPECT_EQ(refusal.caption, "Usuwanie");
     EXPECT_EQ(refusal.text, "Nie można usunąć pozycji, gdyż jest ona używana w cennikach! ");
     EXPECT_EQ(refusal.icon, MessageService::Icon::Information);
     EXPECT_EQ(kilometres(), ThreeRanges);
-
     select(*form->lvKolumny, QStringLiteral("1000"));
     scriptedMessages().expect();
     form->btnUsunKolumne->click();
     EXPECT_EQ(db.count(QStringLiteral("CENNIKI_KRAJ_KOLUMNY")), 1);
-}
 
-TEST_F(RangeEditor, DeletingAnUnusedRangeAsksAndRenumbers)
-{
-    for (auto [from, to] : {std::pair{0, 50}, {51, 100}, {101, 200}})
-        addKilometreRange(db.connection(), from, to);
-    auto form = open();
     select(*form->lvWiersze, QStringLiteral("50"));
     scriptedMessages().expect(MessageService::No);
     form->btnUsunWiersz->click();
     EXPECT_EQ(scriptedMessages().shown().back().text, "Czy na pewno usunąć pozycję?");
     EXPECT_EQ(kilometres(), ThreeRanges);
-
     scriptedMessages().expect(MessageService::Yes);
     form->btnUsunWiersz->click();
     EXPECT_EQ(kilometres(), (QStringList{"0-100", "101-200"}));
@@ -266,24 +251,6 @@ TEST_F(RangeEditor, AUsedGroupIsKeptAnUnusedOneDeletedAfterAsking)
     EXPECT_EQ(scriptedMessages().shown().back().text, "Czy na pewno usunąć grupę?");
     EXPECT_EQ(db.count(QStringLiteral("CENNIKI_KRAJ_GRUPY")), 1);
     EXPECT_EQ(db.count(QStringLiteral("CENNIKI_KRAJ_GRUPY"), QStringLiteral("NAZWA = 'Chłodnie'")), 1);
-}
-
-TEST_F(RangeEditor, DoubleClickingARangeCorrectsIt)
-{
-    addKilogramRange(db.connection(), 0, 1000);
-    auto form = open();
-    form->show();
-    form->PageControl1->setCurrentWidget(form->tsKilogramy);
-    TListView &list = *form->lvKolumny;
-    list.setSelectedIndex(0);
-    scriptedModalRunner().expect<TfrmAddEditCennikWierszeKolumny>(
-        [](TfrmAddEditCennikWierszeKolumny &d) {
-            EXPECT_EQ(d.value(), 1000);
-            return 2;
-        });
-    const QRect row = list.visualRect(list.model()->index(0, 0));
-    QTest::mouseDClick(list.viewport(), Qt::LeftButton, {}, row.center());
-    EXPECT_TRUE(scriptedModalRunner().allRun());
 }
 
 TEST_F(RangeEditor, AfterAddingTheBoundIsTypedAndEnterSavesNothingByItself)
