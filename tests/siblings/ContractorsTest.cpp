@@ -139,7 +139,7 @@ TEST_F(ContractorsRegister, ABadNipTypedIntoTheEditorSavesNothing)
     EXPECT_EQ(saved.DATA_WPISU.date(), QDate::currentDate());
 }
 
-TEST_F(ContractorsRegister, CorrectingThroughTheEntryKeepsTheKeyAndCancelKeepsTheRecord)
+TEST_F(ContractorsRegister, CorrectingThroughTheEntryKeepsTheKeyCancelOrNoRightKeepsTheRecord)
 {
     scriptedModalRunner().expect<TfrmAddEditKontrahenci>([](TfrmAddEditKontrahenci &editor) {
         auto *role = static_cast<QComboBox *>(editor.field(QStringLiteral("cbRola")));
@@ -166,6 +166,15 @@ TEST_F(ContractorsRegister, CorrectingThroughTheEntryKeepsTheKeyAndCancelKeepsTh
               0);
     EXPECT_EQ(saved, -1);
     EXPECT_EQ(TKontrahenciObj(db.connection()).SelectById(carrier).TELEFON, "+48 42 630 11 22");
+
+    // Without the right to edit nothing opens.
+    grant({QStringLiteral("TfrmAddEditKontrahenci")}, 3, false, false, false);
+    scriptedMessages().expect();
+    EXPECT_EQ(SiblingRun::edit<TfrmAddEditKontrahenci>(Privileges::Edit, 3, carrier,
+                                                       &db.connection(), &transaction, &saved),
+              0);
+    EXPECT_EQ(scriptedMessages().shown().at(0).caption, "Uprawnienia");
+    EXPECT_EQ(saved, -1);
 }
 
 TEST_F(ContractorsRegister, TheOwnCompanyAndAContractorOfAnInvoiceStay)
@@ -184,16 +193,4 @@ TEST_F(ContractorsRegister, TheOwnCompanyAndAContractorOfAnInvoiceStay)
         "Nie można usunąć tego kontrahenta: to firma własna (ustawienie IDWłaściciela)"));
     EXPECT_TRUE(scriptedMessages().shown()[3].text.contains("faktury (1)"));
     EXPECT_EQ(db.count(QStringLiteral("KONTRAHENCI")), 3);
-}
-
-TEST_F(ContractorsRegister, EditingAContractorWithoutTheRightOpensNothing)
-{
-    grant({QStringLiteral("TfrmAddEditKontrahenci")}, 3, false, false, false);
-    scriptedMessages().expect();
-    std::int32_t saved = -1;
-    EXPECT_EQ(SiblingRun::edit<TfrmAddEditKontrahenci>(Privileges::Edit, 3, carrier,
-                                                       &db.connection(), &transaction, &saved),
-              0);
-    EXPECT_EQ(scriptedMessages().shown().at(0).caption, "Uprawnienia");
-    EXPECT_EQ(saved, -1);
 }

@@ -65,20 +65,13 @@ TEST_F(RoadCardsTest, ACardGeneratedForAnOrderStartsFromItAndTheOrderPointsAtIt)
     const int key = RoadCardEntries::generateCard(order, &db.connection(), &transaction);
     ASSERT_NE(key, 0);
     const TKarty_drObj made = card(key);
-    EXPECT_EQ(made.IDZLECENIA, order);
-    EXPECT_EQ(made.NRZLECENIA, 120);
-    EXPECT_EQ(made.NUMER, 1);
+    EXPECT_EQ((QList<int>{made.IDZLECENIA, made.NRZLECENIA, made.NUMER, made.IDPOJAZD,
+                          made.IDKIEROWCA, made.IDNACZEPA, made.LICZNIK_POCZ, made.KM_LADOWNE}),
+              (QList<int>{order, 120, 1, vehicle, driver, trailer, 412500, 640}));
+    EXPECT_EQ((QStringList{made.KIEROWCA, made.REJ_POJAZD, made.REJ_NACZEPA, made.UWAGI}),
+              (QStringList{"Marek Wójcik", "EL 4521K", "EL 7N21", "Przez Stryków"}));
     EXPECT_EQ(made.Z_DNIA.date(), QDate(2026, 3, 14));
-    EXPECT_EQ(made.IDPOJAZD, vehicle);
-    EXPECT_EQ(made.IDKIEROWCA, driver);
-    EXPECT_EQ(made.IDNACZEPA, trailer);
-    EXPECT_EQ(made.KIEROWCA, "Marek Wójcik");
-    EXPECT_EQ(made.REJ_POJAZD, "EL 4521K");
-    EXPECT_EQ(made.REJ_NACZEPA, "EL 7N21");
-    EXPECT_EQ(made.LICZNIK_POCZ, 412500);
     EXPECT_DOUBLE_EQ(made.STAN_POCZ, 310.0);
-    EXPECT_EQ(made.KM_LADOWNE, 640);
-    EXPECT_EQ(made.UWAGI, "Przez Stryków");
     EXPECT_EQ(TZlecenia_przychObj(db.connection()).SelectById(order).IDKARTYDR, key);
 
     // The second time the order's own card opens; cancel changes nothing.

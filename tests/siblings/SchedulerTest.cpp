@@ -74,6 +74,16 @@ TEST_F(Scheduler, TodaysListHoldsTheUsersDueRemindersNotDoneWholeDayFirst)
     EXPECT_TRUE(Reminders::setDone(db.connection(), todayLater, false));
     form->frameListView1->Refresh();
     EXPECT_EQ(keys(*form).size(), 3);
+
+    // The entry shows the list of the user it is given.
+    QList<int> listed;
+    scriptedModalRunner().expect<TfrmPokazTerminy>([&](TfrmPokazTerminy &shown) {
+        listed = keys(shown);
+        click(shown.btnOk);
+        return shown.result();
+    });
+    EXPECT_EQ(SiblingRun::window<TfrmPokazTerminy>(2, &db.connection(), &transaction), 1);
+    EXPECT_EQ(listed, QList<int>{someoneElses});
 }
 
 TEST_F(Scheduler, TheCalendarListsTheMonthOfItsPage)
@@ -117,16 +127,4 @@ TEST_F(Scheduler, ANewReminderIsTheUsersOnTheChosenDay)
     EXPECT_EQ(saved.DATA.date(), day);
     EXPECT_EQ(saved.ID_USER, 1);
     EXPECT_EQ(saved.WYKONANE, 0);
-}
-
-TEST_F(Scheduler, TheEntriesRunTheirWindowsForTheGivenUser)
-{
-    QList<int> listed;
-    scriptedModalRunner().expect<TfrmPokazTerminy>([&](TfrmPokazTerminy &form) {
-        listed = keys(form);
-        click(form.btnOk);
-        return form.result();
-    });
-    EXPECT_EQ(SiblingRun::window<TfrmPokazTerminy>(2, &db.connection(), &transaction), 1);
-    EXPECT_EQ(listed, QList<int>{someoneElses});
 }

@@ -107,7 +107,7 @@ TEST_F(SiblingLibraries, EveryLibraryExportsEveryEntryOfItsRow)
     }
 }
 
-TEST_F(SiblingLibraries, EachSelectionWindowHandsBackTheRecordTheUserFound)
+TEST_F(SiblingLibraries, EachSelectionWindowHandsBackTheRecordTheUserFoundOrNoneOnCancel)
 {
     const TDaneFirmy launcher = firma();
     struct Case
@@ -146,17 +146,15 @@ TEST_F(SiblingLibraries, EachSelectionWindowHandsBackTheRecordTheUserFound)
         EXPECT_EQ(selected, c.expected) << c.window;
         EXPECT_TRUE(script.finished()) << c.window;
     }
-}
 
-TEST_F(SiblingLibraries, CancellingASelectionLeavesTheCallersKey)
-{
+    // Cancelled, the caller's key stays.
     WindowScript script;
     script.then(QStringLiteral("TfrmKierowcy"), [](QWidget &window) {
         WindowScript::type(window, QStringLiteral("edSearch"), QStringLiteral("Lewan"));
         WindowScript::click(window, QStringLiteral("btnCancel"));
     });
     int selected = 5;
-    EXPECT_EQ(firma().SelectDriver(5, selected), 0);
+    EXPECT_EQ(launcher.SelectDriver(5, selected), 0);
     EXPECT_EQ(selected, 5);
     EXPECT_TRUE(script.finished());
 }
