@@ -71,17 +71,6 @@ TEST_F(Module, TheLibraryExportsTheEntryPointAndTheCloseBoxReturnsCancel)
                                         today.addMonths(1).toString(Qt::ISODate))));
 }
 
-TEST_F(Module, CloseButtonReturnsOk)
-{
-    scriptedModalRunner().expect<TfrmZlecPrzychodzace>([](TfrmZlecPrzychodzace &form) {
-        form.btnOk->click();
-        return form.result();
-    });
-    EXPECT_EQ(runZlecPrzychodzace(1, &db.connection(), &transaction), 1);
-    EXPECT_EQ(session().Database, &db.connection());
-    EXPECT_EQ(session().Transaction, &transaction);
-}
-
 TEST_F(Module, ASecondCallWorksForItsOwnUser)
 {
     scriptedModalRunner().expect<TfrmZlecPrzychodzace>([](TfrmZlecPrzychodzace &form) {
@@ -107,7 +96,7 @@ TEST_F(Module, ASecondCallWorksForItsOwnUser)
     EXPECT_EQ(scriptedMessages().shown()[0].caption, "Uprawnienia");
 }
 
-TEST_F(Module, AnOrderAddedFromTheRegisterIsSavedAndSelected)
+TEST_F(Module, AnOrderAddedFromTheRegisterIsSavedAndSelectedAndTheCloseButtonReturnsOk)
 {
     const int orders = db.count(QStringLiteral("ZLECENIA_PRZYCH"));
     int selected = 0;
@@ -125,6 +114,8 @@ TEST_F(Module, AnOrderAddedFromTheRegisterIsSavedAndSelected)
         return form.result();
     });
     EXPECT_EQ(runZlecPrzychodzace(1, &db.connection(), &transaction), 1);
+    EXPECT_EQ(session().Database, &db.connection());
+    EXPECT_EQ(session().Transaction, &transaction);
     EXPECT_TRUE(scriptedModalRunner().allRun());
     EXPECT_EQ(db.count(QStringLiteral("ZLECENIA_PRZYCH")), orders + 1);
     const QString newest = QStringLiteral("SELECT MAX(ID_ZLECENIA_PRZYCH) FROM ZLECENIA_PRZYCH");
