@@ -52,11 +52,14 @@ protected:
     QString loginFile() const { return m_files.filePath(QStringLiteral("haulix-login.conf")); }
     QString serverFile(const QString &name) const { return m_files.filePath(name); }
 
-    AdminRun setup(const QString &path, QStringList more = {})
+    AdminRun setup(const QString &path, QStringList more = {}, QString address = {},
+                   QString admin = {})
     {
         QStringList arguments{QStringLiteral("server-setup"), path, QStringLiteral("--server"),
-                              server().address(), QStringLiteral("--admin"),
-                              server().adminLoginFile(), QStringLiteral("--login"), loginFile()};
+                              address.isEmpty() ? server().address() : address,
+                              QStringLiteral("--admin"),
+                              admin.isEmpty() ? server().adminLoginFile() : admin,
+                              QStringLiteral("--login"), loginFile()};
         return AdminRun::of(Admin, arguments + more);
     }
 
@@ -186,10 +189,7 @@ TEST_F(Server, EverySetupMistakeIsOneSentenceAndLeavesNothingBehind)
     const QString path = serverFile(QStringLiteral("nowa.fdb"));
 
     const int closed = PrivateFirebirdServer::freePort();
-    const AdminRun unreachable = AdminRun::of(
-        Admin, {QStringLiteral("server-setup"), path, QStringLiteral("--server"),
-                QStringLiteral("127.0.0.1/%1").arg(closed), QStringLiteral("--admin"),
-                server().adminLoginFile(), QStringLiteral("--login"), loginFile()});
+    const AdminRun unreachable = setup(path, {}, QStringLiteral("127.0.0.1/%1").arg(closed));
     EXPECT_EQ(unreachable.exitCode, 1);
     EXPECT_TRUE(unreachable.errors.contains(
         QStringLiteral("Serwer Firebird 127.0.0.1/%1 nie odpowiada").arg(closed)))
@@ -198,10 +198,7 @@ TEST_F(Server, EverySetupMistakeIsOneSentenceAndLeavesNothingBehind)
     const QString wrongAdmin = serverFile(QStringLiteral("zly.password"));
     writeFile(wrongAdmin, "ISC_USER=SYSDBA\nISC_PASSWORD=\"nie-to\"\n",
               QFile::ReadOwner | QFile::WriteOwner);
-    const AdminRun refused = AdminRun::of(
-        Admin, {QStringLiteral("server-setup"), path, QStringLiteral("--server"),
-                server().address(), QStringLiteral("--admin"), wrongAdmin,
-                QStringLiteral("--login"), loginFile()});
+    const AdminRun refused = setup(path, {}, {}, wrongAdmin);
     EXPECT_EQ(refused.exitCode, 1);
     EXPECT_TRUE(refused.errors.contains("Serwer Firebird nie przyjął użytkownika SYSDBA z hasłem "
                                         "z pliku " + wrongAdmin))
