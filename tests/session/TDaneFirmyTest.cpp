@@ -155,6 +155,17 @@ protected:
         return DateTime::fromDate(QDate(year, month, dayOfMonth));
     }
 
+    // Converts with the table, date, quantity, rate and table number kept
+    // in the fixture, where the conversion writes them back.
+    double convert(int currency, double amount, int table = 0, DateTime on = day(2024, 3, 5),
+                   int numberLength = 20)
+    {
+        tableID = table;
+        date = on;
+        return TDaneFirmy(context).ConvertCurrency(tableID, currency, date, quantity, rate,
+                                                   numberLength, tableNumber, amount);
+    }
+
     static constexpr int Zloty = 1;
     static constexpr int Euro = 2;
     static constexpr int Forint = 3;
@@ -163,7 +174,7 @@ protected:
     int march4 = 0;
     int march10 = 0;
     int tableID = 0;
-    DateTime date = day(2024, 3, 5);
+    DateTime date;
     int quantity = -7;
     double rate = -7.0;
     QString tableNumber = QStringLiteral("przed");
@@ -174,13 +185,9 @@ protected:
 TEST_F(ConvertCurrencyTest, TheDomesticCurrencyNeedsNoTable)
 {
     db.exec(QStringLiteral("DELETE FROM NUMERY_TABEL_KURSOW"));
-    const TDaneFirmy firma(context);
-    tableID = 0;
-    const double result =
-        firma.ConvertCurrency(tableID, Zloty, date, quantity, rate, 20, tableNumber, 100.0);
+    EXPECT_DOUBLE_EQ(convert(Zloty, 100.0), 100.0);
     EXPECT_EQ(quantity, 1);
     EXPECT_DOUBLE_EQ(rate, 1.0);
-    EXPECT_DOUBLE_EQ(result, 100.0);
     EXPECT_EQ(tableID, 0);
     EXPECT_EQ(date, day(2024, 3, 5));
     EXPECT_EQ(tableNumber, QStringLiteral("przed"));
@@ -188,63 +195,36 @@ TEST_F(ConvertCurrencyTest, TheDomesticCurrencyNeedsNoTable)
 
 TEST_F(ConvertCurrencyTest, TakesTheLatestTableOnOrBeforeTheDateAndRoundsHalfCentsToEven)
 {
-    const TDaneFirmy firma(context);
-    const double result =
-        firma.ConvertCurrency(tableID, Euro, date, quantity, rate, 20, tableNumber, 100.0);
+    EXPECT_DOUBLE_EQ(convert(Euro, 100.0), 432.15);
     EXPECT_EQ(tableID, march4);
     EXPECT_EQ(date, day(2024, 3, 4));
     EXPECT_EQ(tableNumber, QStringLiteral("A/2"));
     EXPECT_DOUBLE_EQ(rate, 4.3215);
     EXPECT_EQ(quantity, 1);
-    EXPECT_DOUBLE_EQ(result, 432.15);
 
-    tableID = 0;
-    date = day(2024, 3, 5);
-    EXPECT_DOUBLE_EQ(firma.ConvertCurrency(tableID, Forint, date, quantity, rate, 20, tableNumber,
-                                           1000.0),
-                     11.0);
+    EXPECT_DOUBLE_EQ(convert(Forint, 1000.0), 11.0);
     EXPECT_EQ(quantity, 100);
-
-    // Half cents go to the even cent.
-    tableID = 0;
-    EXPECT_DOUBLE_EQ(firma.ConvertCurrency(tableID, Quarter, date, quantity, rate, 20, tableNumber,
-                                           0.5),
-                     0.12);
-    tableID = 0;
-    EXPECT_DOUBLE_EQ(firma.ConvertCurrency(tableID, Quarter, date, quantity, rate, 20, tableNumber,
-                                           1.5),
-                     0.38);
+    EXPECT_DOUBLE_EQ(convert(Quarter, 0.5), 0.12);
+    EXPECT_DOUBLE_EQ(convert(Quarter, 1.5), 0.38);
 }
 
 TEST_F(ConvertCurrencyTest, AGivenTableIsUsedWithItsNumberCut)
 {
-    const TDaneFirmy firma(context);
-    tableID = march10;
-    const double result =
-        firma.ConvertCurrency(tableID, Euro, date, quantity, rate, 2, tableNumber, 10.0);
+    EXPECT_DOUBLE_EQ(convert(Euro, 10.0, march10, day(2024, 3, 5), 2), 44.0);
     EXPECT_EQ(tableID, march10);
     EXPECT_EQ(tableNumber, QStringLiteral("A/"));
     EXPECT_EQ(date, day(2024, 3, 5));
-    EXPECT_DOUBLE_EQ(result, 44.0);
 }
 
 TEST_F(ConvertCurrencyTest, NoTableOrNoRateGivesQuantityZero)
 {
-    const TDaneFirmy firma(context);
-    date = day(2024, 2, 1);
-    EXPECT_DOUBLE_EQ(firma.ConvertCurrency(tableID, Euro, date, quantity, rate, 20, tableNumber,
-                                           100.0),
-                     0.0);
+    EXPECT_DOUBLE_EQ(convert(Euro, 100.0, 0, day(2024, 2, 1)), 0.0);
     EXPECT_EQ(tableID, -1);
     EXPECT_EQ(quantity, 0);
     EXPECT_DOUBLE_EQ(rate, 0.0);
     EXPECT_EQ(date, day(2024, 2, 1));
 
-    tableID = 0;
-    date = day(2024, 3, 5);
-    EXPECT_DOUBLE_EQ(firma.ConvertCurrency(tableID, Dollar, date, quantity, rate, 20, tableNumber,
-                                           100.0),
-                     0.0);
+    EXPECT_DOUBLE_EQ(convert(Dollar, 100.0), 0.0);
     EXPECT_EQ(tableID, march4);
     EXPECT_EQ(quantity, 0);
 }
