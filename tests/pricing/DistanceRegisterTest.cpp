@@ -87,25 +87,30 @@ TEST_F(DistanceRegister, OpensOnTheHomeCityWhateverItsLetterCaseAndListsRoutesBy
     EXPECT_EQ(destinations(*form), QStringList{"Gdańsk"});
 }
 
-TEST_F(DistanceRegister, DeletingWithTheMonitorFlagWritesTheHistory)
+TEST_F(DistanceRegister, DeletingAsksAndWritesTheHistoryOnlyWithTheMonitorFlag)
 {
     addSetting(db.connection(),
-               {.name = QStringLiteral("SystemMonitorDelete"), .type = 'B', .number = 1});
+               {.name = QStringLiteral("SystemMonitorDelete"), .type = 'B', .number = 0});
     auto form = open();
+    list(*form).setSelectedIndex(list(*form).findByKey(toGdansk));
+    scriptedMessages().expect(MessageService::Yes);
+    form->frameListView1->BitBtn6->click();
+    EXPECT_EQ(db.count(QStringLiteral("ODLEGLOSCI")), 2);
+    EXPECT_EQ(db.count(QStringLiteral("HISTORY")), 0);
+
+    db.exec(QStringLiteral("UPDATE KONFIGURACJA SET VALUE_INT = 1 "
+                           "WHERE POLE = 'SystemMonitorDelete'"));
     list(*form).setSelectedIndex(list(*form).findByKey(toKrakow));
     scriptedMessages().expect(MessageService::No);
     form->frameListView1->BitBtn6->click();
-    EXPECT_EQ(db.count(QStringLiteral("ODLEGLOSCI")), 3);
-
+    EXPECT_EQ(db.count(QStringLiteral("ODLEGLOSCI")), 2);
     scriptedMessages().expect(MessageService::Yes);
     form->frameListView1->BitBtn6->click();
     const auto &asked = scriptedMessages().shown().back();
     EXPECT_EQ(asked.caption, "Usuwanie");
     EXPECT_EQ(asked.text, "Usunąć wybraną pozycję");
-    EXPECT_EQ(db.count(QStringLiteral("ODLEGLOSCI"),
-                       QStringLiteral("ID_ODLEGLOSCI = %1").arg(toKrakow)),
-              0);
-    EXPECT_EQ(destinations(*form), QStringList{"Gdańsk"});
+    EXPECT_EQ(db.count(QStringLiteral("ODLEGLOSCI")), 1);
+    EXPECT_EQ(list(*form).itemCount(), 0);
     EXPECT_EQ(db.count(QStringLiteral("HISTORY"),
                        QStringLiteral("OPERACJA = 3 AND GRUPA = 41 AND USERID = 1 AND "
                                       "HISTORY_PARAMS = '%1'")
@@ -113,23 +118,12 @@ TEST_F(DistanceRegister, DeletingWithTheMonitorFlagWritesTheHistory)
               1);
 }
 
-TEST_F(DistanceRegister, DeletingWithoutTheMonitorFlagWritesNoHistory)
-{
-    addSetting(db.connection(),
-               {.name = QStringLiteral("SystemMonitorDelete"), .type = 'B', .number = 0});
-    auto form = open();
-    list(*form).setSelectedIndex(list(*form).findByKey(toKrakow));
-    scriptedMessages().expect(MessageService::Yes);
-    form->frameListView1->BitBtn6->click();
-    EXPECT_EQ(db.count(QStringLiteral("ODLEGLOSCI")), 2);
-    EXPECT_EQ(db.count(QStringLiteral("HISTORY")), 0);
-}
-
-TEST_F(DistanceRegister, EscClosesTheRegisterAndTheDistanceEditorWithoutSaving)
+TEST_F(DistanceRegister, EnterEditsTheRouteTypedDistanceSavedByAltZEscSavesNothing)
 {
     auto form = open();
     Typing::activate(form.get());
     list(*form).setFocus();
+    // Esc leaves the editor without saving what was typed.
     scriptedModalRunner().expect<TfrmAddEditMiasta>([](TfrmAddEditMiasta &d) {
         Typing::activate(&d);
         Typing::keys(QStringLiteral("999"));
@@ -143,17 +137,7 @@ TEST_F(DistanceRegister, EscClosesTheRegisterAndTheDistanceEditorWithoutSaving)
     EXPECT_EQ(db.scalar(QStringLiteral("SELECT ODLEGLOSC FROM ODLEGLOSCI WHERE ID_ODLEGLOSCI = %1")
                             .arg(toKrakow)),
               "270");
-    Typing::activate(form.get());
-    EXPECT_EQ(QApplication::focusWidget(), &list(*form));
-    Typing::press(Qt::Key_Escape);
-    EXPECT_FALSE(form->isVisible());
-    EXPECT_EQ(form->result(), TfrmRODefault::mrCancel);
-}
 
-TEST_F(DistanceRegister, TheDistanceEditorStartsInTheDistanceAndChangesOnlyWhatIsTyped)
-{
-    auto form = open();
-    Typing::activate(form.get());
     scriptedModalRunner().expect<TfrmAddEditMiasta>([](TfrmAddEditMiasta &d) {
         Typing::activate(&d);
         // The cities only show the route; the distance is what is typed.
@@ -170,7 +154,8 @@ TEST_F(DistanceRegister, TheDistanceEditorStartsInTheDistanceAndChangesOnlyWhatI
         EXPECT_TRUE(Typing::closes(&d));
         return d.result();
     });
-    list(*form).setFocus();
+    Typing::activate(form.get());
+    EXPECT_EQ(QApplication::focusWidget(), &list(*form));
     const int row = list(*form).findByKey(toGdansk);
     list(*form).setSelectedIndex(row);
     Typing::press(Qt::Key_Return);
@@ -181,4 +166,11 @@ TEST_F(DistanceRegister, TheDistanceEditorStartsInTheDistanceAndChangesOnlyWhatI
               QStringLiteral("315/%1/%2").arg(lodz).arg(gdansk));
     EXPECT_EQ(list(*form).selectedIndex(), row);
     EXPECT_EQ(list(*form).text(row, 3), "315");
+
+    // Esc closes the register too.
+    Typing::activate(form.get());
+    list(*form).setFocus();
+    Typing::press(Qt::Key_Escape);
+    EXPECT_FALSE(form->isVisible());
+    EXPECT_EQ(form->result(), TfrmRODefault::mrCancel);
 }

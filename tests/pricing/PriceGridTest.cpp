@@ -139,26 +139,7 @@ TEST_F(PriceGrid, RangesHeadTheGridWhichShowsTheChosenOpenGroupsCells)
     EXPECT_EQ(grid->Cells(2, 2), "");
 }
 
-TEST_F(PriceGrid, ZeroInAnEmptyCellStoresNothingAndAPositiveAmountStoresIt)
-{
-    seedGrid();
-    auto grid = openGrid();
-    double shown = -1.0;
-    editCell(*grid, 1, 2, 0.0, &shown);
-    EXPECT_DOUBLE_EQ(shown, 0.0);
-    EXPECT_EQ(grid->windowTitle(), "1,2");
-    EXPECT_EQ(cells(QStringLiteral("GRUPA = 0")), 1);
-
-    editCell(*grid, 1, 2, 450.0);
-    EXPECT_EQ(cells(QStringLiteral("GRUPA = 0 AND KILOMETRY = %1 AND KILOGRAMY = %2 AND "
-                                   "KWOTA = 450")
-                        .arg(far)
-                        .arg(light)),
-              1);
-    EXPECT_EQ(grid->Cells(1, 2), "450,00");
-}
-
-TEST_F(PriceGrid, AFilledCellIsUpdatedCancelKeepsItAndZeroOrLessDeletesIt)
+TEST_F(PriceGrid, AFilledCellIsUpdatedOrDeletedByZeroAndAnEmptyOneFilledOnlyByAnAmount)
 {
     seedGrid();
     auto grid = openGrid();
@@ -190,6 +171,22 @@ TEST_F(PriceGrid, AFilledCellIsUpdatedCancelKeepsItAndZeroOrLessDeletesIt)
     EXPECT_EQ(cells(QStringLiteral("GRUPA = %1").arg(open)), 0);
     EXPECT_EQ(grid->Cells(1, 1), "");
     EXPECT_EQ(cells(QStringLiteral("GRUPA = %1").arg(blocked)), 1);
+
+    // In an empty cell of the main list zero stores nothing, an amount is stored.
+    grid->cbCennik->setCurrentIndex(0);
+    double shown = -1.0;
+    editCell(*grid, 1, 2, 0.0, &shown);
+    EXPECT_DOUBLE_EQ(shown, 0.0);
+    EXPECT_EQ(grid->windowTitle(), "1,2");
+    EXPECT_EQ(cells(QStringLiteral("GRUPA = 0")), 1);
+
+    editCell(*grid, 1, 2, 450.0);
+    EXPECT_EQ(cells(QStringLiteral("GRUPA = 0 AND KILOMETRY = %1 AND KILOGRAMY = %2 AND "
+                                   "KWOTA = 450")
+                        .arg(far)
+                        .arg(light)),
+              1);
+    EXPECT_EQ(grid->Cells(1, 2), "450,00");
 }
 
 TEST_F(PriceGrid, TheClientViewerListsClientsOfThePriceList)

@@ -190,37 +190,6 @@ TEST_F(RangeEditor, ARangeUsedByACellStaysAnUnusedOneIsDeletedAfterAskingAndRenu
     EXPECT_EQ(shown(*form->lvWiersze), (QStringList{"0-100", "101-200"}));
 }
 
-TEST_F(RangeEditor, GroupsAreAddedAndCorrectedWithTheirBlockedFlag)
-{
-    auto form = open();
-    scriptedModalRunner().expect<TfrmAddEditGrupy>([](TfrmAddEditGrupy &d) {
-        EXPECT_EQ(d.windowTitle(), "Edycja grupy");
-        EXPECT_EQ(d.edNazwa->maxLength(), 50);
-        d.edNazwa->setText(QStringLiteral("Chłodnie"));
-        d.btnOk->click();
-        return d.result();
-    });
-    form->btnDodajGrupe->click();
-    ASSERT_EQ(form->lvGrupy->itemCount(), 1);
-    EXPECT_EQ(form->lvGrupy->selectedIndex(), 0);
-    EXPECT_EQ(form->lvGrupy->text(0, 1), "");
-
-    scriptedModalRunner().expect<TfrmAddEditGrupy>([](TfrmAddEditGrupy &d) {
-        EXPECT_EQ(d.edNazwa->text(), "Chłodnie");
-        EXPECT_FALSE(d.cbBlokada->isChecked());
-        d.edNazwa->setText(QStringLiteral("Chłodnie 2024"));
-        d.cbBlokada->setChecked(true);
-        d.btnOk->click();
-        return d.result();
-    });
-    form->btnPoprawGrupe->click();
-    EXPECT_EQ(form->lvGrupy->text(0, 0), "Chłodnie 2024");
-    EXPECT_EQ(form->lvGrupy->text(0, 1), "T");
-    EXPECT_EQ(db.count(QStringLiteral("CENNIKI_KRAJ_GRUPY"),
-                       QStringLiteral("NAZWA = 'Chłodnie 2024' AND BLOKADA = 1")),
-              1);
-}
-
 TEST_F(RangeEditor, AUsedGroupIsKeptAnUnusedOneDeletedAfterAsking)
 {
     const int used = addGroup(db.connection(), QStringLiteral("Chłodnie"));
@@ -271,13 +240,14 @@ TEST_F(RangeEditor, AfterAddingTheBoundIsTypedAndEnterSavesNothingByItself)
     EXPECT_EQ(kilometres(), (QStringList{"0-150"}));
 }
 
-TEST_F(RangeEditor, TheGroupEditorSavesWithAltZAndClosesWithAltM)
+TEST_F(RangeEditor, AGroupTypedIsSavedWithAltZNotWithAltMAndCorrectedWithItsBlockedFlag)
 {
     auto form = open();
     Typing::activate(form.get());
     const auto typeName = [](const QString &name, Qt::Key accelerator) {
         scriptedModalRunner().expect<TfrmAddEditGrupy>([=](TfrmAddEditGrupy &d) {
             Typing::activate(&d);
+            EXPECT_EQ(d.edNazwa->maxLength(), 50);
             // One button per accelerator letter, or Alt+Z would only move
             // the focus between the two.
             QSet<QChar> letters;
@@ -300,6 +270,24 @@ TEST_F(RangeEditor, TheGroupEditorSavesWithAltZAndClosesWithAltM)
     typeName(QStringLiteral("Plandeki"), Qt::Key_M);
     Typing::click(form->btnDodajGrupe);
     EXPECT_EQ(db.count(QStringLiteral("CENNIKI_KRAJ_GRUPY")), 1);
-    EXPECT_EQ(db.count(QStringLiteral("CENNIKI_KRAJ_GRUPY"), QStringLiteral("NAZWA = 'Chłodnie'")),
+    ASSERT_EQ(form->lvGrupy->itemCount(), 1);
+    EXPECT_EQ(form->lvGrupy->selectedIndex(), 0);
+    EXPECT_EQ(form->lvGrupy->text(0, 0), "Chłodnie");
+    EXPECT_EQ(form->lvGrupy->text(0, 1), "");
+
+    scriptedModalRunner().expect<TfrmAddEditGrupy>([](TfrmAddEditGrupy &d) {
+        EXPECT_EQ(d.edNazwa->text(), "Chłodnie");
+        EXPECT_FALSE(d.cbBlokada->isChecked());
+        Typing::into(d.edNazwa, QStringLiteral("Chłodnie 2024"));
+        // On the box itself: the check box is wider than its text.
+        QTest::mouseClick(d.cbBlokada, Qt::LeftButton, {}, QPoint(6, d.cbBlokada->height() / 2));
+        Typing::click(d.btnOk);
+        return d.result();
+    });
+    Typing::click(form->btnPoprawGrupe);
+    EXPECT_EQ(form->lvGrupy->text(0, 0), "Chłodnie 2024");
+    EXPECT_EQ(form->lvGrupy->text(0, 1), "T");
+    EXPECT_EQ(db.count(QStringLiteral("CENNIKI_KRAJ_GRUPY"),
+                       QStringLiteral("NAZWA = 'Chłodnie 2024' AND BLOKADA = 1")),
               1);
 }
