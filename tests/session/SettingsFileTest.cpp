@@ -50,42 +50,29 @@ TEST_F(SettingsFileTest, AnIniArgumentThenTheFileBesideTheProgramThenTheSystemOn
     EXPECT_EQ(SettingsFile::fileName(host({})), beside);
 }
 
-TEST_F(SettingsFileTest, AMissingAppPathIsWrittenFromTheExecutableDirectory)
+TEST_F(SettingsFileTest, AMissingOrEmptyAppPathIsWrittenFromTheProgramsDirectoryAStoredOneKept)
 {
     const QString ini = path(QStringLiteral("Haulix.ini"));
+    const auto stored = [&] {
+        return QSettings(ini, QSettings::IniFormat).value(QStringLiteral("AppPath")).toString();
+    };
     EXPECT_EQ(SettingsFile::appPath(ini, QStringLiteral("/opt/haulix")),
               QStringLiteral("/opt/haulix"));
-    QSettings written(ini, QSettings::IniFormat);
-    EXPECT_EQ(written.value(QStringLiteral("AppPath")).toString(), QStringLiteral("/opt/haulix/"));
-
+    EXPECT_EQ(stored(), QStringLiteral("/opt/haulix/"));
     QFile file(ini);
     ASSERT_TRUE(file.open(QIODevice::ReadOnly));
     EXPECT_TRUE(file.readAll().contains("[General]"));
-}
 
-TEST_F(SettingsFileTest, AnEmptyAppPathIsReplacedAndAStoredOneKept)
-{
-    const QString ini = path(QStringLiteral("Haulix.ini"));
-    {
-        QSettings settings(ini, QSettings::IniFormat);
-        settings.setValue(QStringLiteral("AppPath"), QString());
-    }
+    QSettings(ini, QSettings::IniFormat).setValue(QStringLiteral("AppPath"), QString());
     EXPECT_EQ(SettingsFile::appPath(ini, QStringLiteral("/opt/a")), QStringLiteral("/opt/a"));
-    {
-        QSettings settings(ini, QSettings::IniFormat);
-        settings.setValue(QStringLiteral("AppPath"), QStringLiteral("D:\\Haulix\\"));
-    }
+    QSettings(ini, QSettings::IniFormat).setValue(QStringLiteral("AppPath"), "D:\\Haulix\\");
     EXPECT_EQ(SettingsFile::appPath(ini, QStringLiteral("/opt/a")), QStringLiteral("D:\\Haulix"));
-}
 
-TEST_F(SettingsFileTest, ADriveRootIsStoredAsTheDriveAlone)
-{
+    // A drive root is stored as the drive alone.
     EXPECT_EQ(SettingsFile::storedAppPath(QStringLiteral("C:/")), QStringLiteral("C:"));
     EXPECT_EQ(SettingsFile::storedAppPath(QStringLiteral("C:\\")), QStringLiteral("C:"));
     EXPECT_EQ(SettingsFile::storedAppPath(QStringLiteral("C:/Haulix")), QStringLiteral("C:/Haulix/"));
-
-    const QString ini = path(QStringLiteral("Haulix.ini"));
+    QFile::remove(ini);
     EXPECT_EQ(SettingsFile::appPath(ini, QStringLiteral("C:/")), QStringLiteral("C:"));
-    QSettings written(ini, QSettings::IniFormat);
-    EXPECT_EQ(written.value(QStringLiteral("AppPath")).toString(), QStringLiteral("C:"));
+    EXPECT_EQ(stored(), QStringLiteral("C:"));
 }

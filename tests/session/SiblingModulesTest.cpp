@@ -12,6 +12,8 @@
 
 #include <gtest/gtest.h>
 
+#include <functional>
+
 namespace {
 
 // The launchers run against stand-in sibling libraries (TestSibling.cpp)
@@ -123,15 +125,15 @@ TEST_F(SiblingModulesTest, AMissingLibraryIsNamedWithItsFullPathAndChangesNothin
     expectMissing(QStringLiteral("Drivers"));
     EXPECT_EQ(QGuiApplication::overrideCursor(), nullptr);
 
-    scriptedMessages().clear();
-    scriptedMessages().expect(MessageService::Ok);
-    EXPECT_FALSE(launcher.ShowScheduler());
-    expectMissing(QStringLiteral("Scheduler"));
-
-    scriptedMessages().clear();
-    scriptedMessages().expect(MessageService::Ok);
-    EXPECT_FALSE(launcher.EditRoadCard(1));
-    expectMissing(QStringLiteral("RoadCards"));
+    for (const auto &[library, run] :
+         {std::pair<QString, std::function<bool()>>{QStringLiteral("Scheduler"),
+                                                     [&] { return launcher.ShowScheduler(); }},
+          {QStringLiteral("RoadCards"), [&] { return launcher.EditRoadCard(1); }}}) {
+        scriptedMessages().clear();
+        scriptedMessages().expect(MessageService::Ok);
+        EXPECT_FALSE(run());
+        expectMissing(library);
+    }
 }
 
 TEST_F(SiblingModulesTest, TheSchedulerButtonsAndTheRoadCardEditorPassTheirArguments)
