@@ -49,6 +49,14 @@ protected:
         return environment;
     }
 
+    // haulix-admin as a workstation does, or with the administrator's login.
+    AdminRun admin(const QStringList &arguments, bool asWorkstation = true)
+    {
+        return asWorkstation ? AdminRun::of(Admin, arguments, workstation())
+                             : AdminRun::of(Admin, arguments + QStringList{
+                                   QStringLiteral("--login"), server().adminLoginFile()});
+    }
+
     QString loginFile() const { return m_files.filePath(QStringLiteral("haulix-login.conf")); }
     QString serverFile(const QString &name) const { return m_files.filePath(name); }
 
@@ -105,8 +113,7 @@ TEST_F(Server, TwoWorkstationsShareTheCopiedDatabaseAsTheirOwnUser)
               QFile::ReadOwner | QFile::WriteOwner | QFile::ReadUser | QFile::WriteUser);
 
     // A workstation program, logged in with the file it was given.
-    const AdminRun seen = AdminRun::of(Admin, {QStringLiteral("summary"), onServer(path)},
-                                       workstation());
+    const AdminRun seen = admin({QStringLiteral("summary"), onServer(path)});
     ASSERT_EQ(seen.exitCode, 0) << seen.errors.toStdString();
     EXPECT_EQ(summaryLines(seen.output), summaryLines(expected.output));
 
@@ -156,16 +163,13 @@ TEST_F(Server, BackupGoesThroughTheServerWithTheAdministratorsLoginOnly)
     ASSERT_EQ(setup(path).exitCode, 0);
     const QString copy = serverFile(QStringLiteral("kopia.fbk"));
 
-    const AdminRun asWorkstation = AdminRun::of(
-        Admin, {QStringLiteral("backup"), onServer(path), copy}, workstation());
+    const AdminRun asWorkstation = admin({QStringLiteral("backup"), onServer(path), copy});
     EXPECT_EQ(asWorkstation.exitCode, 1);
     EXPECT_TRUE(asWorkstation.errors.contains("Użytkownik HAULIX nie może zrobić kopii tej bazy"))
         << asWorkstation.errors.toStdString();
     EXPECT_FALSE(QFileInfo::exists(copy));
 
-    const AdminRun asAdmin
-        = AdminRun::of(Admin, {QStringLiteral("backup"), onServer(path), copy,
-                               QStringLiteral("--login"), server().adminLoginFile()});
+    const AdminRun asAdmin = admin({QStringLiteral("backup"), onServer(path), copy}, false);
     ASSERT_EQ(asAdmin.exitCode, 0) << asAdmin.errors.toStdString();
     const QString restored = serverFile(QStringLiteral("odtworzona.fdb"));
     ASSERT_EQ(AdminRun::of(Admin, {QStringLiteral("restore"), copy, restored}).exitCode, 0);
@@ -173,15 +177,11 @@ TEST_F(Server, BackupGoesThroughTheServerWithTheAdministratorsLoginOnly)
     EXPECT_EQ(there.exitCode, 0) << there.errors.toStdString();
 
     // Restored onto the server, next to the first: never over it.
-    const AdminRun over = AdminRun::of(Admin, {QStringLiteral("restore"), copy, onServer(path),
-                                               QStringLiteral("--login"),
-                                               server().adminLoginFile()});
+    const AdminRun over = admin({QStringLiteral("restore"), copy, onServer(path)}, false);
     EXPECT_EQ(over.exitCode, 1);
     EXPECT_TRUE(over.errors.contains("już istnieje; nie zostanie nadpisana"))
         << over.errors.toStdString();
-    EXPECT_EQ(AdminRun::of(Admin, {QStringLiteral("summary"), onServer(path)}, workstation())
-                  .exitCode,
-              0);
+    EXPECT_EQ(admin({QStringLiteral("summary"), onServer(path)}).exitCode, 0);
 }
 
 TEST_F(Server, EverySetupMistakeIsOneSentenceAndLeavesNothingBehind)
@@ -234,7 +234,5 @@ TEST_F(Server, EverySetupMistakeIsOneSentenceAndLeavesNothingBehind)
     EXPECT_TRUE(again.errors.contains("Baza " + onServer(path)
                                       + " już istnieje; nie zostanie nadpisana."))
         << again.errors.toStdString();
-    EXPECT_EQ(AdminRun::of(Admin, {QStringLiteral("summary"), onServer(path)}, workstation())
-                  .exitCode,
-              0);
+    EXPECT_EQ(admin({QStringLiteral("summary"), onServer(path)}).exitCode, 0);
 }

@@ -67,12 +67,12 @@ TEST_F(TDaneFirmyTest, WriteHistoryStoresOneCommittedRowOfTheValuesAsText)
     Statement st(db.connection());
     st.add(QStringLiteral("SELECT * FROM HISTORY"));
     st.exec();
-    EXPECT_EQ(st.integer(QStringLiteral("USERID")), 7);
-    EXPECT_EQ(st.integer(QStringLiteral("OPERACJA")), 3);
-    EXPECT_EQ(st.integer(QStringLiteral("GRUPA")), 17);
-    EXPECT_EQ(st.string(QStringLiteral("HISTORY_PARAMS")), QStringLiteral("12,Gdańsk,2.5"));
-    EXPECT_EQ(st.string(QStringLiteral("COMPNAME")), TDaneFirmy::GetComputerName());
-    EXPECT_EQ(st.string(QStringLiteral("COMPUSER")), TDaneFirmy::GetLoginName());
+    QStringList row;
+    for (const char *column : {"USERID", "OPERACJA", "GRUPA", "HISTORY_PARAMS", "COMPNAME",
+                               "COMPUSER"})
+        row << st.string(QLatin1String(column));
+    EXPECT_EQ(row, (QStringList{"7", "3", "17", "12,Gdańsk,2.5", TDaneFirmy::GetComputerName(),
+                                TDaneFirmy::GetLoginName()}));
     // Stored to the millisecond, read back within a minute of the call.
     EXPECT_LT(std::fabs(st.dateTime(QStringLiteral("CZAS")).days() - before), 1.0 / 1440);
 
