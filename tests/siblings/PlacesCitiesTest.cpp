@@ -55,8 +55,7 @@ TEST_F(PlacesAndCities, CitiesShowTheirCountryAndPolishCodesHaveTheirForm)
 
     scriptedModalRunner().expect<TfrmAddEditMiejscowosci>([](TfrmAddEditMiejscowosci &editor) {
         // Poland has no mask of its own in this database: NN-NNN holds.
-        EXPECT_EQ(static_cast<QComboBox *>(editor.field(QStringLiteral("cbKraj")))->currentText(),
-                  "Polska");
+        EXPECT_EQ(shown(editor.field(QStringLiteral("cbKraj"))), "Polska");
         type(editor.field(QStringLiteral("edNazwa")), QStringLiteral("Kutno"));
         type(editor.field(QStringLiteral("edKod")), QStringLiteral("99300"));
         scriptedMessages().expect();

@@ -52,12 +52,8 @@ TEST_F(RoadCardsTest, ACardGeneratedForAnOrderStartsFromItAndTheOrderPointsAtIt)
     scriptedModalRunner().expect<TfrmAddEditKartyDrogowe>([](TfrmAddEditKartyDrogowe &editor) {
         // The order names its vehicle only by registration; the vehicle
         // brings its driver, trailer and readings.
-        EXPECT_EQ(static_cast<QComboBox *>(editor.field(QStringLiteral("cbPojazd")))
-                      ->currentText(),
-                  "EL 4521K");
-        EXPECT_EQ(static_cast<QComboBox *>(editor.field(QStringLiteral("cbKierowca")))
-                      ->currentText(),
-                  "Marek Wójcik");
+        EXPECT_EQ(shown(editor.field(QStringLiteral("cbPojazd"))), "EL 4521K");
+        EXPECT_EQ(shown(editor.field(QStringLiteral("cbKierowca"))), "Marek Wójcik");
         type(editor.field(QStringLiteral("edUwagi")), QStringLiteral("Przez Stryków"));
         click(editor.btnOk);
         return editor.result();
@@ -172,10 +168,8 @@ TEST_F(RoadCardsTest, ChoosingAVehicleFillsOnlyWhatTheCardLacks)
     type(editor->field(QStringLiteral("edUwagi")), QStringLiteral("bez zmian"));
     vehicles->setFocus();
     QTest::keyClick(vehicles, Qt::Key_Down);
-    EXPECT_EQ(static_cast<QComboBox *>(editor->field(QStringLiteral("cbNaczepa")))->currentText(),
-              "EL 7N21");
-    EXPECT_EQ(static_cast<QLineEdit *>(editor->field(QStringLiteral("edUwagi")))->text(),
-              "bez zmian");
+    EXPECT_EQ(shown(editor->field(QStringLiteral("cbNaczepa"))), "EL 7N21");
+    EXPECT_EQ(shown(editor->field(QStringLiteral("edUwagi"))), "bez zmian");
 }
 
 TEST_F(RoadCardsTest, WhenTheOrderCannotPointAtTheCardNoCardIsSavedAndTheEditorStaysOpen)
@@ -189,8 +183,7 @@ TEST_F(RoadCardsTest, WhenTheOrderCannotPointAtTheCardNoCardIsSavedAndTheEditorS
         click(editor.btnOk);
         EXPECT_TRUE(editor.isVisible());
         EXPECT_EQ(db.count(QStringLiteral("KARTY_DR")), 0);
-        EXPECT_EQ(static_cast<QLineEdit *>(editor.field(QStringLiteral("edUwagi")))->text(),
-                  "Przez Stryków");
+        EXPECT_EQ(shown(editor.field(QStringLiteral("edUwagi"))), "Przez Stryków");
         click(editor.btnCancel);
         return editor.result();
     });
