@@ -45,20 +45,16 @@ protected:
             });
     }
 
-    // "from-to" of every range of an axis, in the database's order.
-    QStringList ranges(const QString &table, const QString &from, const QString &to)
+    // "from-to" of every kilometre range, in the database's order.
+    QStringList kilometres()
     {
         QStringList result;
         Statement st(db.connection());
-        st.add(QStringLiteral("SELECT %1, %2 FROM %3 ORDER BY %2").arg(from, to, table));
+        st.add(QStringLiteral("SELECT ZAKRES_WOD, ZAKRES_WDO FROM CENNIKI_KRAJ_WIERSZE "
+                              "ORDER BY ZAKRES_WDO"));
         for (st.exec(); !st.atEnd(); st.next())
             result << QStringLiteral("%1-%2").arg(st.integer(0)).arg(st.integer(1));
         return result;
-    }
-    QStringList kilometres()
-    {
-        return ranges(QStringLiteral("CENNIKI_KRAJ_WIERSZE"), QStringLiteral("ZAKRES_WOD"),
-                      QStringLiteral("ZAKRES_WDO"));
     }
     static QStringList shown(const TListView &list)
     {
@@ -79,20 +75,6 @@ protected:
 const QStringList ThreeRanges{"0-50", "51-100", "101-200"};
 
 } // namespace
-
-TEST_F(RangeEditor, UpperBoundsInAnyOrderBecomeContiguousRanges)
-{
-    auto form = open();
-    EXPECT_TRUE(scriptedMessages().shown().empty());
-    for (int bound : {100, 50, 200}) {
-        enter(bound);
-        form->btnDodajWiersz->click();
-    }
-    EXPECT_EQ(kilometres(), ThreeRanges);
-    EXPECT_EQ(shown(*form->lvWiersze), ThreeRanges);
-    // The last one added is selected.
-    EXPECT_EQ(form->lvWiersze->text(form->lvWiersze->selectedIndex(), 1), "200");
-}
 
 TEST_F(RangeEditor, ADuplicateUpperBoundIsRefusedAndADoubleClickCorrectsARange)
 {
@@ -222,22 +204,28 @@ TEST_F(RangeEditor, AUsedGroupIsKeptAnUnusedOneDeletedAfterAsking)
     EXPECT_EQ(db.count(QStringLiteral("CENNIKI_KRAJ_GRUPY"), QStringLiteral("NAZWA = 'Chłodnie'")), 1);
 }
 
-TEST_F(RangeEditor, AfterAddingTheBoundIsTypedAndEnterSavesNothingByItself)
+TEST_F(RangeEditor, UpperBoundsTypedInAnyOrderBecomeContiguousRangesEnterSavesNothing)
 {
     auto form = open();
+    EXPECT_TRUE(scriptedMessages().shown().empty());
     Typing::activate(form.get());
-    scriptedModalRunner().expect<TfrmAddEditCennikWierszeKolumny>(
-        [](TfrmAddEditCennikWierszeKolumny &d) {
-            Typing::activate(&d);
-            EXPECT_EQ(QApplication::focusWidget(), d.edWartosc);
-            Typing::press(Qt::Key_Return);
-            EXPECT_TRUE(d.isVisible());
-            Typing::keys(QStringLiteral("150"));
-            Typing::accelerator(Qt::Key_Z);
-            return d.result();
-        });
-    Typing::click(form->btnDodajWiersz);
-    EXPECT_EQ(kilometres(), (QStringList{"0-150"}));
+    for (const char *bound : {"100", "50", "200"}) {
+        scriptedModalRunner().expect<TfrmAddEditCennikWierszeKolumny>(
+            [bound](TfrmAddEditCennikWierszeKolumny &d) {
+                Typing::activate(&d);
+                EXPECT_EQ(QApplication::focusWidget(), d.edWartosc);
+                Typing::press(Qt::Key_Return);
+                EXPECT_TRUE(d.isVisible());
+                Typing::keys(QString::fromLatin1(bound));
+                Typing::accelerator(Qt::Key_Z);
+                return d.result();
+            });
+        Typing::click(form->btnDodajWiersz);
+    }
+    EXPECT_EQ(kilometres(), ThreeRanges);
+    EXPECT_EQ(shown(*form->lvWiersze), ThreeRanges);
+    // The last one added is selected.
+    EXPECT_EQ(form->lvWiersze->text(form->lvWiersze->selectedIndex(), 1), "200");
 }
 
 TEST_F(RangeEditor, AGroupTypedIsSavedWithAltZNotWithAltMAndCorrectedWithItsBlockedFlag)
