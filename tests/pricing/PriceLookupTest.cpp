@@ -41,7 +41,7 @@ protected:
 
 } // namespace
 
-TEST_F(PriceLookupTest, BothBoundsOfARangeBelongToItAndTonnesAreRoundedKilograms)
+TEST_F(PriceLookupTest, BothBoundsOfARangeBelongToItTonnesAreRoundedKilogramsAndTheGroupChooses)
 {
     EXPECT_DOUBLE_EQ(amount(0, 100, 1.0), 100.0 * upTo100 + 1.0);
     EXPECT_DOUBLE_EQ(amount(0, 51, 1.0), 100.0 * upTo100 + 1.0);
@@ -57,10 +57,8 @@ TEST_F(PriceLookupTest, BothBoundsOfARangeBelongToItAndTonnesAreRoundedKilograms
     // The group chooses the price list.
     EXPECT_DOUBLE_EQ(amount(group, 150, 2.0), 1000.0 * upTo200 + 1.0);
     EXPECT_DOUBLE_EQ(amount(0, 150, 2.0), 100.0 * upTo200 + 1.0);
-}
 
-TEST_F(PriceLookupTest, NothingMatchingGivesZeroWithoutAMessage)
-{
+    // Nothing matching gives zero without a message.
     EXPECT_DOUBLE_EQ(amount(0, 201, 1.0), 0.0);      // beyond the last distance
     EXPECT_DOUBLE_EQ(amount(0, 80, 24.001), 0.0);    // beyond the last weight
     EXPECT_DOUBLE_EQ(amount(group, 80, 20.0), 0.0);  // the group has no such cell

@@ -64,24 +64,20 @@ TEST_P(PriceRangesTest, UpperBoundsInAnyOrderBecomeContiguousRangesRenumberedOnC
     EXPECT_EQ(PriceRanges::load(db.connection(), axis(), last).from, 51);
 }
 
-TEST_P(PriceRangesTest, TheDuplicateTestLeavesOutTheRangeBeingEdited)
+TEST_P(PriceRangesTest, TheDuplicateTestLeavesOutTheRangeBeingEditedAndUsageCountsCells)
 {
     const int first = add(50);
-    add(100);
+    const int second = add(100);
     Connection &c = db.connection();
     EXPECT_TRUE(PriceRanges::exists(c, PriceRanges::duplicateTest(axis()), 100));
     EXPECT_FALSE(PriceRanges::exists(c, PriceRanges::duplicateTest(axis()), 75));
     EXPECT_FALSE(PriceRanges::exists(c, PriceRanges::duplicateTest(axis(), first), 50));
     EXPECT_TRUE(PriceRanges::exists(c, PriceRanges::duplicateTest(axis(), first), 100));
-}
 
-TEST_P(PriceRangesTest, UsageCountsTheCellsOnTheRangeAndTheTotalBothAxes)
-{
-    const int used = add(50);
-    const int unused = add(100);
-    useInACell(used);
-    EXPECT_EQ(PriceRanges::usage(db.connection(), axis(), used), 1);
-    EXPECT_EQ(PriceRanges::usage(db.connection(), axis(), unused), 0);
+    // Usage counts the cells on the range; the total counts both axes.
+    useInACell(first);
+    EXPECT_EQ(PriceRanges::usage(c, axis(), first), 1);
+    EXPECT_EQ(PriceRanges::usage(c, axis(), second), 0);
     EXPECT_EQ(PriceRanges::totalCount(db.connection()), 3);
 }
 

@@ -17,7 +17,7 @@ QString number(const char *mask, int value = 42, const QString &text = QStringLi
 
 } // namespace
 
-TEST(DocumentNumber, NumberTextAndDateCodes)
+TEST(DocumentNumber, EachCodeOfTheMaskAndWhatItCannotRead)
 {
     EXPECT_EQ(number("FV;/;%####;/;%MM;/;%R"), "FV/0042/03/2024");
     // The "%" counts: a token of five characters gives four digits, and a
@@ -47,10 +47,8 @@ TEST(DocumentNumber, NumberTextAndDateCodes)
     EXPECT_EQ(number("%tt", 1, QStringLiteral("XYZ")), "XYZ");
     EXPECT_EQ(number("%t", 1, QString()), " ");
     EXPECT_EQ(number("%T", 1, QString()), " ");
-}
 
-TEST(DocumentNumber, UnknownCodesBlanksLengthAndImpossibleDates)
-{
+    // Unknown codes add nothing, blanks go, 255 characters at most.
     EXPECT_EQ(number("%x;%;%?##"), QString());
     EXPECT_EQ(number(" F V / ; %### ;"), "FV/042");
     EXPECT_EQ(number("A;;B;"), "AB");

@@ -3,7 +3,7 @@
 
 #include <gtest/gtest.h>
 
-TEST(RoundTo2, DecidesOnTheThirdDecimalDigitAndAddsTheCentAlsoBelowZero)
+TEST(Money, RoundTo2DecidesOnTheThirdDigitAlsoBelowZeroRoundCentsToEvenOnTies)
 {
     const std::pair<double, double> cases[] = {
         {2.345, 2.35}, {2.344, 2.34}, {2.3449, 2.34},
@@ -16,10 +16,8 @@ TEST(RoundTo2, DecidesOnTheThirdDecimalDigitAndAddsTheCentAlsoBelowZero)
     // Values whose decimal text runs to hundreds of digits.
     for (const double tiny : {1e-300, -1e-300, 4.9e-324, 0.000999})
         EXPECT_EQ(Money::RoundTo2(tiny), 0.0) << tiny;
-}
 
-TEST(RoundCentsToEven, TiesGoToTheEvenCent)
-{
+    // Rounding to the even cent, for currency conversions.
     EXPECT_DOUBLE_EQ(Money::RoundCentsToEven(0.125), 0.12);
     EXPECT_DOUBLE_EQ(Money::RoundCentsToEven(0.375), 0.38);
     EXPECT_DOUBLE_EQ(Money::RoundCentsToEven(10.0049), 10.0);

@@ -40,17 +40,15 @@ TEST_F(TDaneFirmyTest, LoadsTheCompanyDataOnCreation)
                            "biuro@example.pl", "Gdańsk", "pomorskie", "PL5840001122", "PL3"}));
 }
 
-TEST_F(TDaneFirmyTest, WithoutCompanyDataOrDatabaseTheTextsStayEmpty)
+TEST_F(TDaneFirmyTest, WithoutCompanyDataOrDatabaseTheTextsStayEmptyAndNamesKeepTheirLimits)
 {
     EXPECT_EQ(TDaneFirmy(context).NAZWA, QString());
     const SessionContext noDatabase;
     const TDaneFirmy firma(noDatabase);
     EXPECT_EQ(firma.NAZWA, QString());
     EXPECT_EQ(firma.GetConfigInt(QStringLiteral("IDWalutyKrajowej")), 0);
-}
 
-TEST_F(TDaneFirmyTest, WorkstationNamesKeepTheirLimits)
-{
+    // The workstation's names keep the limits of their columns.
     EXPECT_LE(TDaneFirmy::GetComputerName().size(), 16);
     EXPECT_FALSE(TDaneFirmy::GetLoginName().isEmpty());
     EXPECT_LE(TDaneFirmy::GetLoginName().size(), 51);
@@ -84,7 +82,7 @@ TEST_F(TDaneFirmyTest, WriteHistoryStoresOneCommittedRowOfTheValuesAsText)
               QStringLiteral("12,Gdańsk,2.5|42|a,b"));
 }
 
-TEST_F(TDaneFirmyTest, WriteHistoryInsideARunningTransactionLeavesItToTheCaller)
+TEST_F(TDaneFirmyTest, WriteHistoryInsideARunningTransactionLeavesItToTheCallerAFailureLeavesNothing)
 {
     const TDaneFirmy firma(context);
     transaction.StartTransaction();
@@ -92,11 +90,8 @@ TEST_F(TDaneFirmyTest, WriteHistoryInsideARunningTransactionLeavesItToTheCaller)
     EXPECT_TRUE(transaction.InTransaction());
     transaction.Rollback();
     EXPECT_EQ(db.count(QStringLiteral("HISTORY")), 0);
-}
 
-TEST_F(TDaneFirmyTest, AFailedHistoryInsertIsReportedAndLeavesNothing)
-{
-    const TDaneFirmy firma(context);
+    // A failed insert is reported and leaves nothing.
     scriptedMessages().expect(MessageService::Ok);
     EXPECT_FALSE(firma.WriteHistory(QString(300, QLatin1Char('x')), 3, 1));
     ASSERT_EQ(scriptedMessages().shown().size(), 1u);

@@ -61,7 +61,7 @@ protected:
 
 } // namespace
 
-TEST_F(ContractorsRegister, ListsTheRoleOfEachContractor)
+TEST_F(ContractorsRegister, ListsTheRoleOfEachContractorAndKeepsTheOwnCompanyAndOneInvoiced)
 {
     auto form = TfrmRODefault::create<TfrmKontrahenci>(nullptr, TfrmRegister::Browse, 0);
     const TListView &list = *form->frameListView1->lvMain;
@@ -72,6 +72,21 @@ TEST_F(ContractorsRegister, ListsTheRoleOfEachContractor)
     EXPECT_TRUE(ContractorRoles::isClient(ContractorRoles::Both));
     EXPECT_FALSE(ContractorRoles::isClient(ContractorRoles::Carrier));
     EXPECT_FALSE(ContractorRoles::isCarrier(ContractorRoles::Client));
+
+    // The own company and a contractor of an invoice stay.
+    db.exec(QStringLiteral("INSERT INTO FAKTURY (NR_KOLEJNY, ID_KONTRAHENTA) VALUES (1, %1)")
+                .arg(client));
+    for (const int key : {own, client}) {
+        form->frameListView1->lvMain->selectByKey(key);
+        scriptedMessages().expect(MessageService::Yes);
+        scriptedMessages().expect();
+        form->acUsun->trigger();
+    }
+    ASSERT_EQ(scriptedMessages().shown().size(), 4u);
+    EXPECT_TRUE(scriptedMessages().shown()[1].text.startsWith(
+        "Nie można usunąć tego kontrahenta: to firma własna (ustawienie IDWłaściciela)"));
+    EXPECT_TRUE(scriptedMessages().shown()[3].text.contains("faktury (1)"));
+    EXPECT_EQ(db.count(QStringLiteral("KONTRAHENCI")), 3);
 }
 
 TEST_F(ContractorsRegister, ChecksNipPostalCodeAccountAndShortNameOfAContractor)
@@ -175,22 +190,4 @@ TEST_F(ContractorsRegister, CorrectingThroughTheEntryKeepsTheKeyCancelOrNoRightK
               0);
     EXPECT_EQ(scriptedMessages().shown().at(0).caption, "Uprawnienia");
     EXPECT_EQ(saved, -1);
-}
-
-TEST_F(ContractorsRegister, TheOwnCompanyAndAContractorOfAnInvoiceStay)
-{
-    db.exec(QStringLiteral("INSERT INTO FAKTURY (NR_KOLEJNY, ID_KONTRAHENTA) VALUES (1, %1)")
-                .arg(client));
-    auto form = TfrmRODefault::create<TfrmKontrahenci>(nullptr, TfrmRegister::Browse, 0);
-    for (const int key : {own, client}) {
-        form->frameListView1->lvMain->selectByKey(key);
-        scriptedMessages().expect(MessageService::Yes);
-        scriptedMessages().expect();
-        form->acUsun->trigger();
-    }
-    ASSERT_EQ(scriptedMessages().shown().size(), 4u);
-    EXPECT_TRUE(scriptedMessages().shown()[1].text.startsWith(
-        "Nie można usunąć tego kontrahenta: to firma własna (ustawienie IDWłaściciela)"));
-    EXPECT_TRUE(scriptedMessages().shown()[3].text.contains("faktury (1)"));
-    EXPECT_EQ(db.count(QStringLiteral("KONTRAHENCI")), 3);
 }

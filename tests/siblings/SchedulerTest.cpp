@@ -86,7 +86,7 @@ TEST_F(Scheduler, TodaysListHoldsTheUsersDueRemindersNotDoneWholeDayFirst)
     EXPECT_EQ(listed, QList<int>{someoneElses});
 }
 
-TEST_F(Scheduler, TheCalendarListsTheMonthOfItsPage)
+TEST_F(Scheduler, TheCalendarListsTheMonthOfItsPageAndAddsOnTheChosenDay)
 {
     auto form = TfrmRODefault::create<TfrmTerminarz>(nullptr, TfrmRegister::Browse, 0);
     const QDate today = QDate::currentDate();
@@ -103,12 +103,9 @@ TEST_F(Scheduler, TheCalendarListsTheMonthOfItsPage)
     form->calTerminarz->showNextMonth();
     EXPECT_EQ(keys(*form), QList<int>{nextMonth});
     EXPECT_NE(form->calTerminarz->dateTextFormat(today).fontWeight(), QFont::Bold);
-}
 
-TEST_F(Scheduler, ANewReminderIsTheUsersOnTheChosenDay)
-{
-    auto form = TfrmRODefault::create<TfrmTerminarz>(nullptr, TfrmRegister::Browse, 0);
-    const QDate day = QDate::currentDate().addDays(2);
+    // A new reminder is the user's, on the day chosen.
+    const QDate day = today.addDays(2);
     form->calTerminarz->setSelectedDate(day);
     scriptedModalRunner().expect<TfrmAddEditTerminy>([](TfrmAddEditTerminy &editor) {
         type(editor.field(QStringLiteral("edTresc")), QStringLiteral("Zamówić paliwo"));
