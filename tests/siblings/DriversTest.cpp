@@ -64,7 +64,7 @@ protected:
 
 } // namespace
 
-TEST_F(DriversRegister, ListsEveryDriverAndTheMechanicsInTheirOwnRegister)
+TEST_F(DriversRegister, ListsEveryDriverAndTheMechanicsAndDeletesOnlyADriverNothingRefersTo)
 {
     auto drivers = TfrmRODefault::create<TfrmKierowcy>(nullptr, TfrmRegister::Browse, 0);
     EXPECT_EQ(surnames(*drivers), (QStringList{"Emeryt", "Nowak", "Wójcik"}));
@@ -78,6 +78,32 @@ TEST_F(DriversRegister, ListsEveryDriverAndTheMechanicsInTheirOwnRegister)
     auto mechanics = TfrmRODefault::create<TfrmMechanicy>(nullptr, TfrmRegister::Browse, 0);
     EXPECT_EQ(mechanics->windowTitle(), "Mechanicy");
     EXPECT_EQ(surnames(*mechanics), QStringList{"Nowak"});
+
+    // A driver of an order or a vehicle is not deleted; one of neither is.
+    db.exec(QStringLiteral("INSERT INTO ZLECENIA_PRZYCH (NUMER, IDKIEROWCY) VALUES (1, %1)")
+                .arg(wojcik));
+    db.exec(QStringLiteral("INSERT INTO POJAZDY (NR_REJ, DEF_ZMIENNIK) VALUES ('EL 1', %1)")
+                .arg(wojcik));
+    drivers->frameListView1->lvMain->selectByKey(wojcik);
+    scriptedMessages().expect(MessageService::Yes);
+    scriptedMessages().expect();
+    drivers->acUsun->trigger();
+    ASSERT_EQ(scriptedMessages().shown().size(), 2u);
+    EXPECT_EQ(scriptedMessages().shown()[1].caption, "Usuwanie");
+    EXPECT_EQ(scriptedMessages().shown()[1].text,
+              "Nie można usunąć wybranej pozycji, ponieważ korzystają z niej: zlecenia "
+              "przychodzące (1), pojazdy (jako kierowca lub zmiennik domyślny) (1).\n"
+              "Najpierw zmień lub usuń te zapisy. Nic nie zostało usunięte.");
+    EXPECT_EQ(db.count(QStringLiteral("KIEROWCY")), 3);
+    EXPECT_EQ(drivers->selectedKey(), wojcik);
+
+    scriptedMessages().clear();
+    drivers->frameListView1->lvMain->selectByKey(retired);
+    scriptedMessages().expect(MessageService::Yes);
+    drivers->acUsun->trigger();
+    EXPECT_EQ(db.count(QStringLiteral("KIEROWCY"), QStringLiteral("ID_KIEROWCA = %1").arg(retired)),
+              0);
+    EXPECT_EQ(drivers->frameListView1->lvMain->itemCount(), 2);
 }
 
 TEST_F(DriversRegister, ADriverTypedIntoTheEditorIsCheckedFieldByFieldThenSavedAndSelected)
@@ -138,35 +164,6 @@ TEST_F(DriversRegister, TheChecksOfADriverNameTheFieldAtFault)
     driver.NIP = QStringLiteral("725-400-01-02");
     driver.KOD = QStringLiteral("90001");
     EXPECT_EQ(Drivers::check(driver)->field, "edKod");
-}
-
-TEST_F(DriversRegister, ADriverOfAnOrderOrAVehicleIsNotDeleted)
-{
-    db.exec(QStringLiteral("INSERT INTO ZLECENIA_PRZYCH (NUMER, IDKIEROWCY) VALUES (1, %1)")
-                .arg(wojcik));
-    db.exec(QStringLiteral("INSERT INTO POJAZDY (NR_REJ, DEF_ZMIENNIK) VALUES ('EL 1', %1)")
-                .arg(wojcik));
-    auto form = TfrmRODefault::create<TfrmKierowcy>(nullptr, TfrmRegister::Browse, 0);
-    form->frameListView1->lvMain->selectByKey(wojcik);
-    scriptedMessages().expect(MessageService::Yes);
-    scriptedMessages().expect();
-    form->acUsun->trigger();
-    ASSERT_EQ(scriptedMessages().shown().size(), 2u);
-    EXPECT_EQ(scriptedMessages().shown()[1].caption, "Usuwanie");
-    EXPECT_EQ(scriptedMessages().shown()[1].text,
-              "Nie można usunąć wybranej pozycji, ponieważ korzystają z niej: zlecenia "
-              "przychodzące (1), pojazdy (jako kierowca lub zmiennik domyślny) (1).\n"
-              "Najpierw zmień lub usuń te zapisy. Nic nie zostało usunięte.");
-    EXPECT_EQ(db.count(QStringLiteral("KIEROWCY")), 3);
-    EXPECT_EQ(form->selectedKey(), wojcik);
-
-    scriptedMessages().clear();
-    form->frameListView1->lvMain->selectByKey(retired);
-    scriptedMessages().expect(MessageService::Yes);
-    form->acUsun->trigger();
-    EXPECT_EQ(db.count(QStringLiteral("KIEROWCY"), QStringLiteral("ID_KIEROWCA = %1").arg(retired)),
-              0);
-    EXPECT_EQ(form->frameListView1->lvMain->itemCount(), 2);
 }
 
 TEST_F(DriversRegister, WithoutTheRightsNothingIsAddedOrDeleted)
