@@ -52,8 +52,11 @@ TEST_F(OnTheDemoDatabase, TheMenuOpensTheGridWhoseCellsTheLookUpFinds)
 
 TEST_F(OnTheDemoDatabase, TheRegistersListTheDemoRecords)
 {
-    // The range editor lists the blocked group too.
-    EXPECT_EQ(TfrmRODefault::create<TfrmCennikWierszeKolumny>(nullptr)->lvGrupy->itemCount(), 3);
+    // The range editor lists every range and the blocked group too.
+    auto editor = TfrmRODefault::create<TfrmCennikWierszeKolumny>(nullptr);
+    EXPECT_EQ(editor->lvWiersze->itemCount(), 6);
+    EXPECT_EQ(editor->lvKolumny->itemCount(), 4);
+    EXPECT_EQ(editor->lvGrupy->itemCount(), 3);
     for (const int own : {0, 1}) {
         auto tariffs = TfrmRODefault::create<TfrmStawkiTaryfowe>(nullptr, 0, own);
         const int stored = db.count(QStringLiteral("TARYFYPRZEWOZNIKA"),
