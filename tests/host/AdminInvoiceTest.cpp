@@ -1,32 +1,16 @@
 // haulix-admin invoice: the month-end invoicing of a client without a screen.
+#include "AdminRun.h"
 #include "OrderInvoicingFixture.h"
 
-#include <QProcess>
-
 #include <gtest/gtest.h>
-
-namespace {
-
-struct AdminRun
-{
-    int exitCode = -1;
-    QString output;
-    QString errors;
-};
-
-} // namespace
 
 class AdminInvoice : public OrderInvoicingFixture
 {
 protected:
     AdminRun invoice(const QStringList &more)
     {
-        QProcess admin;
-        admin.start(QStringLiteral(HAULIX_ADMIN_PATH),
-                    QStringList{QStringLiteral("invoice"), db.path()} + more);
-        EXPECT_TRUE(admin.waitForFinished(60000)) << "haulix-admin did not end";
-        return {admin.exitCode(), QString::fromUtf8(admin.readAllStandardOutput()),
-                QString::fromUtf8(admin.readAllStandardError())};
+        return AdminRun::of(QStringLiteral(HAULIX_ADMIN_PATH),
+                            QStringList{QStringLiteral("invoice"), db.path()} + more);
     }
 
     static QStringList march(int client)

@@ -1,3 +1,4 @@
+#include "AdminRun.h"
 #include "DemoSeeder.h"
 #include "StoppedSeed.h"
 #include "TestDatabase.h"
@@ -11,33 +12,21 @@
 
 namespace {
 
-struct HostRun
-{
-    int exitCode = -1;
-    QString errors;
-};
+const QString Host = QStringLiteral(HAULIX_HOST_PATH);
 
-// Runs the host offscreen and waits for it to end.
-HostRun runHost(const QString &program, const QStringList &arguments)
+QProcessEnvironment display(bool offscreen)
 {
-    QProcess host;
-    QProcessEnvironment env = QProcessEnvironment::systemEnvironment();
-    env.insert(QStringLiteral("QT_QPA_PLATFORM"), QStringLiteral("offscreen"));
-    host.setProcessEnvironment(env);
-    host.start(program, arguments);
-    EXPECT_TRUE(host.waitForFinished(60000)) << "the host did not end";
-    return {host.exitCode(), QString::fromUtf8(host.readAllStandardError())};
+    QProcessEnvironment environment = QProcessEnvironment::systemEnvironment();
+    for (const char *name : {"DISPLAY", "WAYLAND_DISPLAY", "QT_QPA_PLATFORM"})
+        environment.remove(QString::fromLatin1(name));
+    if (offscreen)
+        environment.insert(QStringLiteral("QT_QPA_PLATFORM"), QStringLiteral("offscreen"));
+    return environment;
 }
 
-const QString Host = QStringLiteral(HAULIX_HOST_PATH);
-const QString Admin = QStringLiteral(HAULIX_ADMIN_PATH);
-
-HostRun runAdmin(const QStringList &arguments)
+AdminRun runHost(const QStringList &arguments, const QString &program = Host)
 {
-    QProcess admin;
-    admin.start(Admin, arguments);
-    EXPECT_TRUE(admin.waitForFinished(60000)) << "haulix-admin did not end";
-    return {admin.exitCode(), QString::fromUtf8(admin.readAllStandardError())};
+    return AdminRun::of(program, arguments, display(true));
 }
 
 void seedSmallDemo(TestDatabase &db)
@@ -49,117 +38,73 @@ void seedSmallDemo(TestDatabase &db)
 
 } // namespace
 
-TEST(Host, ADatabaseThatCannotBeOpenedIsNamedWithTheReason)
-{
-    const HostRun run = runHost(Host, {QStringLiteral("--db"), QStringLiteral("/nie/ma/baza.fdb")});
-    EXPECT_EQ(run.exitCode, 1);
-    EXPECT_TRUE(run.errors.contains(
-        "Nie można otworzyć bazy danych /nie/ma/baza.fdb: plik nie istnieje."))
-        << run.errors.toStdString();
-}
-
-TEST(Host, AnUnknownUserIsRefused)
+TEST(Host, WhatItCannotRunIsRefusedWithTheReason)
 {
     TestDatabase db;
     seedSmallDemo(db);
-    const HostRun run = runHost(Host, {QStringLiteral("--db"), db.path(), QStringLiteral("--user"),
-                                   QStringLiteral("99")});
-    EXPECT_EQ(run.exitCode, 1);
-    EXPECT_TRUE(run.errors.contains("Nieznany użytkownik 99 w bazie " + db.path()))
-        << run.errors.toStdString();
-}
+    const std::pair<QStringList, QStringList> cases[] = {
+        {{"--db", "/nie/ma/baza.fdb"},
+         {"Nie można otworzyć bazy danych /nie/ma/baza.fdb: plik nie istnieje."}},
+        {{"--db", db.path(), "--user", "99"}, {"Nieznany użytkownik 99 w bazie " + db.path()}},
+        {{"--uzytkownik", "1"}, {"Nieznany argument: --uzytkownik", "Użycie: haulix"}},
+        {{"--module", "Kierowcy"},
+         {"Nieznany moduł: Kierowcy\nModuły: Drivers, Places, Cities, Vehicles, Trailers, "
+          "Contractors, RoadCards, Scheduler"}},
+    };
+    for (const auto &[arguments, said] : cases) {
+        const AdminRun run = runHost(arguments);
+        EXPECT_EQ(run.exitCode, 1) << arguments.join(u' ').toStdString();
+        for (const QString &sentence : said)
+            EXPECT_TRUE(run.errors.contains(sentence)) << run.errors.toStdString();
+    }
 
-TEST(Host, AWrongArgumentShowsTheUsage)
-{
-    const HostRun run = runHost(Host, {QStringLiteral("--uzytkownik"), QStringLiteral("1")});
-    EXPECT_EQ(run.exitCode, 1);
-    EXPECT_TRUE(run.errors.contains("Nieznany argument: --uzytkownik"));
-    EXPECT_TRUE(run.errors.contains("Użycie: haulix"));
-}
-
-TEST(Host, AMissingModuleIsNamedWithItsFullPath)
-{
-    TestDatabase db;
-    seedSmallDemo(db);
-    // The program alone, without the Library folder beside it.
-    QTemporaryDir alone;
-    const QString copy = alone.filePath(QStringLiteral("haulix"));
-    ASSERT_TRUE(QFile::copy(Host, copy));
-    const HostRun run = runHost(copy, {QStringLiteral("--db"), db.path()});
-    EXPECT_EQ(run.exitCode, 1);
-    EXPECT_TRUE(run.errors.contains("Nie można załadować modułu "
-                                    + QDir(alone.path()).filePath("Library/IncomingOrders")))
-        << run.errors.toStdString();
-}
-
-TEST(Host, WithoutADisplayItSaysHowToRunHeadless)
-{
-    QProcessEnvironment environment = QProcessEnvironment::systemEnvironment();
-    for (const char *name : {"DISPLAY", "WAYLAND_DISPLAY", "QT_QPA_PLATFORM"})
-        environment.remove(QString::fromLatin1(name));
-    QProcess host;
-    host.setProcessEnvironment(environment);
-    host.start(Host, {});
-    ASSERT_TRUE(host.waitForFinished(60000));
-    const QString errors = QString::fromUtf8(host.readAllStandardError());
-    EXPECT_EQ(host.exitCode(), 1);
-    EXPECT_TRUE(errors.contains("Brak ekranu")) << errors.toStdString();
-    EXPECT_TRUE(errors.contains("xvfb-run haulix"));
+    // Without a display it says how to run headless.
+    const AdminRun headless = AdminRun::of(Host, {}, display(false));
+    EXPECT_EQ(headless.exitCode, 1);
+    EXPECT_TRUE(headless.errors.contains("Brak ekranu")) << headless.errors.toStdString();
+    EXPECT_TRUE(headless.errors.contains("xvfb-run haulix"));
 }
 
 TEST(Host, HelpIsPrintedOnTheConsoleWithOrWithoutADisplay)
 {
-    QProcessEnvironment headless = QProcessEnvironment::systemEnvironment();
-    for (const char *name : {"DISPLAY", "WAYLAND_DISPLAY", "QT_QPA_PLATFORM"})
-        headless.remove(QString::fromLatin1(name));
-    QProcessEnvironment offscreen = QProcessEnvironment::systemEnvironment();
-    offscreen.insert(QStringLiteral("QT_QPA_PLATFORM"), QStringLiteral("offscreen"));
-    for (const QProcessEnvironment &environment : {headless, offscreen}) {
+    for (const bool offscreen : {false, true}) {
         for (const QString &asked : {QStringLiteral("--help"), QStringLiteral("-h")}) {
-            QProcess host;
-            host.setProcessEnvironment(environment);
-            host.start(Host, {QStringLiteral("--user"), QStringLiteral("2"), asked});
-            ASSERT_TRUE(host.waitForFinished(60000));
-            const QString usage = QString::fromUtf8(host.readAllStandardOutput());
-            EXPECT_EQ(host.exitCode(), 0) << asked.toStdString();
-            EXPECT_TRUE(usage.startsWith("Użycie: haulix [--db")) << usage.toStdString();
+            const AdminRun run = AdminRun::of(Host, {QStringLiteral("--user"), QStringLiteral("2"),
+                                                     asked}, display(offscreen));
+            EXPECT_EQ(run.exitCode, 0) << asked.toStdString();
+            EXPECT_TRUE(run.output.startsWith("Użycie: haulix [--db")) << run.output.toStdString();
             for (const char *option : {"--db", "--user", "--report", "--module", "RoadCards"})
-                EXPECT_TRUE(usage.contains(QLatin1String(option))) << option;
-            EXPECT_FALSE(host.readAllStandardError().contains("Nieznany"));
+                EXPECT_TRUE(run.output.contains(QLatin1String(option))) << option;
+            EXPECT_FALSE(run.errors.contains("Nieznany"));
         }
     }
 }
 
-TEST(Host, AModuleItDoesNotKnowIsRefusedWithTheOnesItKnows)
-{
-    const HostRun run = runHost(Host, {QStringLiteral("--module"), QStringLiteral("Kierowcy")});
-    EXPECT_EQ(run.exitCode, 1);
-    EXPECT_TRUE(run.errors.contains("Nieznany moduł: Kierowcy\nModuły: Drivers, Places, Cities, "
-                                    "Vehicles, Trailers, Contractors, RoadCards, Scheduler"))
-        << run.errors.toStdString();
-}
-
-TEST(Host, ASiblingModuleOpensItsRegisterUntilTheUserEndsIt)
+TEST(Host, AModuleIsLoadedFromTheLibraryFolderAndASiblingsRegisterStaysOpen)
 {
     TestDatabase db;
     seedSmallDemo(db);
-    // Without the Library folder the sibling's own file is named.
+    // The program alone, without the Library folder beside it: the module's
+    // own file is named, the incoming orders' or a sibling's.
     QTemporaryDir alone;
     const QString copy = alone.filePath(QStringLiteral("haulix"));
     ASSERT_TRUE(QFile::copy(Host, copy));
-    const HostRun missing = runHost(copy, {QStringLiteral("--db"), db.path(),
-                                           QStringLiteral("--module"), QStringLiteral("vehicles")});
-    EXPECT_EQ(missing.exitCode, 1);
-    EXPECT_TRUE(missing.errors.contains("Nie można załadować modułu "
-                                        + QDir(alone.path()).filePath("Library/Vehicles")))
-        << missing.errors.toStdString();
+    const std::pair<QStringList, QString> modules[] = {{{}, QStringLiteral("IncomingOrders")},
+                                                       {{"--module", "vehicles"}, "Vehicles"}};
+    for (const auto &[more, module] : modules) {
+        const AdminRun missing = runHost(QStringList{QStringLiteral("--db"), db.path()} + more,
+                                         copy);
+        EXPECT_EQ(missing.exitCode, 1);
+        EXPECT_TRUE(missing.errors.contains("Nie można załadować modułu "
+                                            + QDir(alone.path()).filePath("Library/")
+                                            + module))
+            << missing.errors.toStdString();
+    }
 
     // With it, the register stays open until it is closed (here: ended, which
     // the host, as for the incoming orders, reports as not closed with OK).
     QProcess host;
-    QProcessEnvironment env = QProcessEnvironment::systemEnvironment();
-    env.insert(QStringLiteral("QT_QPA_PLATFORM"), QStringLiteral("offscreen"));
-    host.setProcessEnvironment(env);
+    host.setProcessEnvironment(display(true));
     host.start(Host, {QStringLiteral("--db"), db.path(), QStringLiteral("--module"),
                       QStringLiteral("Vehicles")});
     ASSERT_TRUE(host.waitForStarted());
@@ -179,15 +124,14 @@ TEST(Admin, SeedingOverAStoppedSeedSaysWhatIsLeftAndHowToStartAgain)
     db.connection().close();
     const QString path = db.path();
 
-    const HostRun refused = runAdmin(
+    const AdminRun refused = AdminRun::of(
+        QStringLiteral(HAULIX_ADMIN_PATH),
         {QStringLiteral("seed"), path, QStringLiteral("--orders"), QStringLiteral("5")});
     EXPECT_EQ(refused.exitCode, 1);
     EXPECT_TRUE(refused.errors.contains(DemoSeeder::describe(DemoSeeder::Contents::SeedLeftovers)))
         << refused.errors.toStdString();
     EXPECT_FALSE(refused.errors.contains(QStringLiteral("nie jest pusta")));
-    EXPECT_TRUE(refused.errors.contains(QStringLiteral("usuń plik bazy")));
-    EXPECT_TRUE(refused.errors.contains(QStringLiteral("haulix-admin create ") + path));
-    EXPECT_TRUE(refused.errors.contains(QStringLiteral("haulix-admin seed ") + path
-                                        + QStringLiteral(" --orders 5")))
-        << refused.errors.toStdString();
+    for (const QString &said : QStringList{"usuń plik bazy", "haulix-admin create " + path,
+                                           "haulix-admin seed " + path + " --orders 5"})
+        EXPECT_TRUE(refused.errors.contains(said)) << refused.errors.toStdString();
 }

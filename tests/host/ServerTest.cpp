@@ -49,14 +49,25 @@ protected:
         return environment;
     }
 
+    // haulix-admin as a workstation does, or with the administrator's login.
+    AdminRun admin(const QStringList &arguments, bool asWorkstation = true)
+    {
+        return asWorkstation ? AdminRun::of(Admin, arguments, workstation())
+                             : AdminRun::of(Admin, arguments + QStringList{
+                                   QStringLiteral("--login"), server().adminLoginFile()});
+    }
+
     QString loginFile() const { return m_files.filePath(QStringLiteral("haulix-login.conf")); }
     QString serverFile(const QString &name) const { return m_files.filePath(name); }
 
-    AdminRun setup(const QString &path, QStringList more = {})
+    AdminRun setup(const QString &path, QStringList more = {}, QString address = {},
+                   QString admin = {})
     {
         QStringList arguments{QStringLiteral("server-setup"), path, QStringLiteral("--server"),
-                              server().address(), QStringLiteral("--admin"),
-                              server().adminLoginFile(), QStringLiteral("--login"), loginFile()};
+                              address.isEmpty() ? server().address() : address,
+                              QStringLiteral("--admin"),
+                              admin.isEmpty() ? server().adminLoginFile() : admin,
+                              QStringLiteral("--login"), loginFile()};
         return AdminRun::of(Admin, arguments + more);
     }
 
@@ -102,8 +113,7 @@ TEST_F(Server, TwoWorkstationsShareTheCopiedDatabaseAsTheirOwnUser)
               QFile::ReadOwner | QFile::WriteOwner | QFile::ReadUser | QFile::WriteUser);
 
     // A workstation program, logged in with the file it was given.
-    const AdminRun seen = AdminRun::of(Admin, {QStringLiteral("summary"), onServer(path)},
-                                       workstation());
+    const AdminRun seen = admin({QStringLiteral("summary"), onServer(path)});
     ASSERT_EQ(seen.exitCode, 0) << seen.errors.toStdString();
     EXPECT_EQ(summaryLines(seen.output), summaryLines(expected.output));
 
@@ -153,16 +163,13 @@ TEST_F(Server, BackupGoesThroughTheServerWithTheAdministratorsLoginOnly)
     ASSERT_EQ(setup(path).exitCode, 0);
     const QString copy = serverFile(QStringLiteral("kopia.fbk"));
 
-    const AdminRun asWorkstation = AdminRun::of(
-        Admin, {QStringLiteral("backup"), onServer(path), copy}, workstation());
+    const AdminRun asWorkstation = admin({QStringLiteral("backup"), onServer(path), copy});
     EXPECT_EQ(asWorkstation.exitCode, 1);
     EXPECT_TRUE(asWorkstation.errors.contains("Użytkownik HAULIX nie może zrobić kopii tej bazy"))
         << asWorkstation.errors.toStdString();
     EXPECT_FALSE(QFileInfo::exists(copy));
 
-    const AdminRun asAdmin
-        = AdminRun::of(Admin, {QStringLiteral("backup"), onServer(path), copy,
-                               QStringLiteral("--login"), server().adminLoginFile()});
+    const AdminRun asAdmin = admin({QStringLiteral("backup"), onServer(path), copy}, false);
     ASSERT_EQ(asAdmin.exitCode, 0) << asAdmin.errors.toStdString();
     const QString restored = serverFile(QStringLiteral("odtworzona.fdb"));
     ASSERT_EQ(AdminRun::of(Admin, {QStringLiteral("restore"), copy, restored}).exitCode, 0);
@@ -170,15 +177,11 @@ TEST_F(Server, BackupGoesThroughTheServerWithTheAdministratorsLoginOnly)
     EXPECT_EQ(there.exitCode, 0) << there.errors.toStdString();
 
     // Restored onto the server, next to the first: never over it.
-    const AdminRun over = AdminRun::of(Admin, {QStringLiteral("restore"), copy, onServer(path),
-                                               QStringLiteral("--login"),
-                                               server().adminLoginFile()});
+    const AdminRun over = admin({QStringLiteral("restore"), copy, onServer(path)}, false);
     EXPECT_EQ(over.exitCode, 1);
     EXPECT_TRUE(over.errors.contains("już istnieje; nie zostanie nadpisana"))
         << over.errors.toStdString();
-    EXPECT_EQ(AdminRun::of(Admin, {QStringLiteral("summary"), onServer(path)}, workstation())
-                  .exitCode,
-              0);
+    EXPECT_EQ(admin({QStringLiteral("summary"), onServer(path)}).exitCode, 0);
 }
 
 TEST_F(Server, EverySetupMistakeIsOneSentenceAndLeavesNothingBehind)
@@ -186,10 +189,7 @@ TEST_F(Server, EverySetupMistakeIsOneSentenceAndLeavesNothingBehind)
     const QString path = serverFile(QStringLiteral("nowa.fdb"));
 
     const int closed = PrivateFirebirdServer::freePort();
-    const AdminRun unreachable = AdminRun::of(
-        Admin, {QStringLiteral("server-setup"), path, QStringLiteral("--server"),
-                QStringLiteral("127.0.0.1/%1").arg(closed), QStringLiteral("--admin"),
-                server().adminLoginFile(), QStringLiteral("--login"), loginFile()});
+    const AdminRun unreachable = setup(path, {}, QStringLiteral("127.0.0.1/%1").arg(closed));
     EXPECT_EQ(unreachable.exitCode, 1);
     EXPECT_TRUE(unreachable.errors.contains(
         QStringLiteral("Serwer Firebird 127.0.0.1/%1 nie odpowiada").arg(closed)))
@@ -198,10 +198,7 @@ TEST_F(Server, EverySetupMistakeIsOneSentenceAndLeavesNothingBehind)
     const QString wrongAdmin = serverFile(QStringLiteral("zly.password"));
     writeFile(wrongAdmin, "ISC_USER=SYSDBA\nISC_PASSWORD=\"nie-to\"\n",
               QFile::ReadOwner | QFile::WriteOwner);
-    const AdminRun refused = AdminRun::of(
-        Admin, {QStringLiteral("server-setup"), path, QStringLiteral("--server"),
-                server().address(), QStringLiteral("--admin"), wrongAdmin,
-                QStringLiteral("--login"), loginFile()});
+    const AdminRun refused = setup(path, {}, {}, wrongAdmin);
     EXPECT_EQ(refused.exitCode, 1);
     EXPECT_TRUE(refused.errors.contains("Serwer Firebird nie przyjął użytkownika SYSDBA z hasłem "
                                         "z pliku " + wrongAdmin))
@@ -237,7 +234,5 @@ TEST_F(Server, EverySetupMistakeIsOneSentenceAndLeavesNothingBehind)
     EXPECT_TRUE(again.errors.contains("Baza " + onServer(path)
                                       + " już istnieje; nie zostanie nadpisana."))
         << again.errors.toStdString();
-    EXPECT_EQ(AdminRun::of(Admin, {QStringLiteral("summary"), onServer(path)}, workstation())
-                  .exitCode,
-              0);
+    EXPECT_EQ(admin({QStringLiteral("summary"), onServer(path)}).exitCode, 0);
 }

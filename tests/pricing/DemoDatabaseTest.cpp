@@ -50,27 +50,20 @@ TEST_F(OnTheDemoDatabase, TheMenuOpensTheGridWhoseCellsTheLookUpFinds)
     EXPECT_EQ(Format::number(found, u"#,##0.00"), shown);
 }
 
-TEST_F(OnTheDemoDatabase, TheRangeEditorListsEveryAxisAndGroup)
+TEST_F(OnTheDemoDatabase, TheRegistersListTheDemoRecords)
 {
+    // The range editor lists every range and the blocked group too.
     auto editor = TfrmRODefault::create<TfrmCennikWierszeKolumny>(nullptr);
     EXPECT_EQ(editor->lvWiersze->itemCount(), 6);
     EXPECT_EQ(editor->lvKolumny->itemCount(), 4);
     EXPECT_EQ(editor->lvGrupy->itemCount(), 3);
-}
-
-TEST_F(OnTheDemoDatabase, TheTariffRegisterSeparatesOwnAndCarriersTariffs)
-{
-    auto own = TfrmRODefault::create<TfrmStawkiTaryfowe>(nullptr, 0, 1);
-    EXPECT_EQ(own->frameListView1->lvMain->itemCount(),
-              db.count(QStringLiteral("TARYFYPRZEWOZNIKA"), QStringLiteral("TARYFAWLASNA = 1")));
-    auto carriers = TfrmRODefault::create<TfrmStawkiTaryfowe>(nullptr, 0, 0);
-    EXPECT_EQ(carriers->frameListView1->lvMain->itemCount(),
-              db.count(QStringLiteral("TARYFYPRZEWOZNIKA"), QStringLiteral("TARYFAWLASNA = 0")));
-    EXPECT_GT(carriers->frameListView1->lvMain->itemCount(), 0);
-}
-
-TEST_F(OnTheDemoDatabase, TheDistanceRegisterStartsAtTheHomeCity)
-{
+    for (const int own : {0, 1}) {
+        auto tariffs = TfrmRODefault::create<TfrmStawkiTaryfowe>(nullptr, 0, own);
+        const int stored = db.count(QStringLiteral("TARYFYPRZEWOZNIKA"),
+                                    QStringLiteral("TARYFAWLASNA = %1").arg(own));
+        EXPECT_EQ(tariffs->frameListView1->lvMain->itemCount(), stored) << own;
+        EXPECT_GT(stored, 0) << own;
+    }
     auto cities = TfrmRODefault::create<TfrmMiasta>(nullptr);
     EXPECT_EQ(cities->CBMiasta->currentText(), "Łódź");
     const int routes = db.count(QStringLiteral("ODLEGLOSCI"),

@@ -60,10 +60,9 @@ protected:
 
 } // namespace
 
-TEST_F(DistanceRegister, OpensOnTheHomeCityWhateverItsLetterCase)
+TEST_F(DistanceRegister, OpensOnTheHomeCityWhateverItsLetterCaseAndListsRoutesByStart)
 {
     auto form = open();
-    EXPECT_EQ(form->windowTitle(), "Miasta");
     EXPECT_EQ(form->CBMiasta->itemText(0), "---");
     EXPECT_EQ(form->CBMiasta->count(), 4);
     EXPECT_EQ(form->CBMiasta->currentText(), "Łódź");
@@ -72,21 +71,14 @@ TEST_F(DistanceRegister, OpensOnTheHomeCityWhateverItsLetterCase)
     const int row = list(*form).findByKey(toKrakow);
     EXPECT_EQ(list(*form).items().texts(row),
               (QStringList{QString::number(krakow), "Kraków", "30-001", "270"}));
-}
-
-TEST_F(DistanceRegister, OnlyEditAndDeleteRemainOfTheFramesButtons)
-{
-    auto form = open();
+    // Only edit and delete remain of the frame's buttons.
     TframeListView &frame = *form->frameListView1;
     for (TBitBtn *hidden : {frame.BitBtn1, frame.BitBtn2, frame.BitBtn5, frame.BitBtn7})
         EXPECT_FALSE(hidden->isVisibleTo(form.get())) << hidden->objectName().toStdString();
     EXPECT_TRUE(frame.BitBtn4->isVisibleTo(form.get()));
     EXPECT_TRUE(frame.BitBtn6->isVisibleTo(form.get()));
-}
 
-TEST_F(DistanceRegister, NoCityListsNoRoutesAndARouteIsListedUnderItsStartOnly)
-{
-    auto form = open();
+    // No city lists no routes, and a route is listed under its start only.
     choose(*form, QStringLiteral("---"));
     EXPECT_EQ(list(*form).itemCount(), 0);
     choose(*form, QStringLiteral("Gdańsk"));
@@ -95,48 +87,30 @@ TEST_F(DistanceRegister, NoCityListsNoRoutesAndARouteIsListedUnderItsStartOnly)
     EXPECT_EQ(destinations(*form), QStringList{"Gdańsk"});
 }
 
-TEST_F(DistanceRegister, EditingChangesOnlyTheDistance)
-{
-    auto form = open();
-    const int row = list(*form).findByKey(toGdansk);
-    list(*form).setSelectedIndex(row);
-    scriptedModalRunner().expect<TfrmAddEditMiasta>([](TfrmAddEditMiasta &e) {
-        EXPECT_EQ(e.edMiastoOd->text(), "Łódź");
-        EXPECT_EQ(e.edMiastoDo->text(), "Gdańsk");
-        EXPECT_TRUE(e.edMiastoOd->isReadOnly());
-        EXPECT_EQ(e.edOdleglosc->value(), 340);
-        e.edOdleglosc->setValue(345);
-        e.btnOk->click();
-        return e.result();
-    });
-    form->frameListView1->BitBtn4->click();
-    EXPECT_EQ(db.scalar(QStringLiteral("SELECT ODLEGLOSC || '/' || IDMIASTAOD || '/' || IDMIASTADO "
-                                       "FROM ODLEGLOSCI WHERE ID_ODLEGLOSCI = %1")
-                            .arg(toGdansk)),
-              QStringLiteral("345/%1/%2").arg(lodz).arg(gdansk));
-    EXPECT_EQ(list(*form).selectedIndex(), row);
-    EXPECT_EQ(list(*form).text(row, 3), "345");
-}
-
-TEST_F(DistanceRegister, DeletingWithTheMonitorFlagWritesTheHistory)
+TEST_F(DistanceRegister, DeletingAsksAndWritesTheHistoryOnlyWithTheMonitorFlag)
 {
     addSetting(db.connection(),
-               {.name = QStringLiteral("SystemMonitorDelete"), .type = 'B', .number = 1});
+               {.name = QStringLiteral("SystemMonitorDelete"), .type = 'B', .number = 0});
     auto form = open();
+    list(*form).setSelectedIndex(list(*form).findByKey(toGdansk));
+    scriptedMessages().expect(MessageService::Yes);
+    form->frameListView1->BitBtn6->click();
+    EXPECT_EQ(db.count(QStringLiteral("ODLEGLOSCI")), 2);
+    EXPECT_EQ(db.count(QStringLiteral("HISTORY")), 0);
+
+    db.exec(QStringLiteral("UPDATE KONFIGURACJA SET VALUE_INT = 1 "
+                           "WHERE POLE = 'SystemMonitorDelete'"));
     list(*form).setSelectedIndex(list(*form).findByKey(toKrakow));
     scriptedMessages().expect(MessageService::No);
     form->frameListView1->BitBtn6->click();
-    EXPECT_EQ(db.count(QStringLiteral("ODLEGLOSCI")), 3);
-
+    EXPECT_EQ(db.count(QStringLiteral("ODLEGLOSCI")), 2);
     scriptedMessages().expect(MessageService::Yes);
     form->frameListView1->BitBtn6->click();
     const auto &asked = scriptedMessages().shown().back();
     EXPECT_EQ(asked.caption, "Usuwanie");
     EXPECT_EQ(asked.text, "Usunąć wybraną pozycję");
-    EXPECT_EQ(db.count(QStringLiteral("ODLEGLOSCI"),
-                       QStringLiteral("ID_ODLEGLOSCI = %1").arg(toKrakow)),
-              0);
-    EXPECT_EQ(destinations(*form), QStringList{"Gdańsk"});
+    EXPECT_EQ(db.count(QStringLiteral("ODLEGLOSCI")), 1);
+    EXPECT_EQ(list(*form).itemCount(), 0);
     EXPECT_EQ(db.count(QStringLiteral("HISTORY"),
                        QStringLiteral("OPERACJA = 3 AND GRUPA = 41 AND USERID = 1 AND "
                                       "HISTORY_PARAMS = '%1'")
@@ -144,23 +118,12 @@ TEST_F(DistanceRegister, DeletingWithTheMonitorFlagWritesTheHistory)
               1);
 }
 
-TEST_F(DistanceRegister, DeletingWithoutTheMonitorFlagWritesNoHistory)
-{
-    addSetting(db.connection(),
-               {.name = QStringLiteral("SystemMonitorDelete"), .type = 'B', .number = 0});
-    auto form = open();
-    list(*form).setSelectedIndex(list(*form).findByKey(toKrakow));
-    scriptedMessages().expect(MessageService::Yes);
-    form->frameListView1->BitBtn6->click();
-    EXPECT_EQ(db.count(QStringLiteral("ODLEGLOSCI")), 2);
-    EXPECT_EQ(db.count(QStringLiteral("HISTORY")), 0);
-}
-
-TEST_F(DistanceRegister, EscClosesTheRegisterAndTheDistanceEditorWithoutSaving)
+TEST_F(DistanceRegister, EnterEditsTheRouteTypedDistanceSavedByAltZEscSavesNothing)
 {
     auto form = open();
     Typing::activate(form.get());
     list(*form).setFocus();
+    // Esc leaves the editor without saving what was typed.
     scriptedModalRunner().expect<TfrmAddEditMiasta>([](TfrmAddEditMiasta &d) {
         Typing::activate(&d);
         Typing::keys(QStringLiteral("999"));
@@ -174,20 +137,14 @@ TEST_F(DistanceRegister, EscClosesTheRegisterAndTheDistanceEditorWithoutSaving)
     EXPECT_EQ(db.scalar(QStringLiteral("SELECT ODLEGLOSC FROM ODLEGLOSCI WHERE ID_ODLEGLOSCI = %1")
                             .arg(toKrakow)),
               "270");
-    Typing::activate(form.get());
-    EXPECT_EQ(QApplication::focusWidget(), &list(*form));
-    Typing::press(Qt::Key_Escape);
-    EXPECT_FALSE(form->isVisible());
-    EXPECT_EQ(form->result(), TfrmRODefault::mrCancel);
-}
 
-TEST_F(DistanceRegister, TheDistanceEditorStartsInTheDistanceAndSavesWhatIsTyped)
-{
-    auto form = open();
-    Typing::activate(form.get());
     scriptedModalRunner().expect<TfrmAddEditMiasta>([](TfrmAddEditMiasta &d) {
         Typing::activate(&d);
         // The cities only show the route; the distance is what is typed.
+        EXPECT_EQ(d.edMiastoOd->text(), "Łódź");
+        EXPECT_EQ(d.edMiastoDo->text(), "Gdańsk");
+        EXPECT_TRUE(d.edMiastoOd->isReadOnly());
+        EXPECT_EQ(d.edOdleglosc->value(), 340);
         EXPECT_EQ(QApplication::focusWidget(), d.edOdleglosc);
         Typing::keys(QStringLiteral("-3abc15"));
         EXPECT_EQ(d.edOdleglosc->text(), "315");
@@ -197,11 +154,23 @@ TEST_F(DistanceRegister, TheDistanceEditorStartsInTheDistanceAndSavesWhatIsTyped
         EXPECT_TRUE(Typing::closes(&d));
         return d.result();
     });
-    list(*form).setFocus();
-    list(*form).setSelectedIndex(list(*form).findByKey(toGdansk));
+    Typing::activate(form.get());
+    EXPECT_EQ(QApplication::focusWidget(), &list(*form));
+    const int row = list(*form).findByKey(toGdansk);
+    list(*form).setSelectedIndex(row);
     Typing::press(Qt::Key_Return);
     EXPECT_TRUE(scriptedModalRunner().allRun());
-    EXPECT_EQ(db.scalar(QStringLiteral("SELECT ODLEGLOSC FROM ODLEGLOSCI WHERE ID_ODLEGLOSCI = %1")
+    EXPECT_EQ(db.scalar(QStringLiteral("SELECT ODLEGLOSC || '/' || IDMIASTAOD || '/' || IDMIASTADO "
+                                       "FROM ODLEGLOSCI WHERE ID_ODLEGLOSCI = %1")
                             .arg(toGdansk)),
-              "315");
+              QStringLiteral("315/%1/%2").arg(lodz).arg(gdansk));
+    EXPECT_EQ(list(*form).selectedIndex(), row);
+    EXPECT_EQ(list(*form).text(row, 3), "315");
+
+    // Esc closes the register too.
+    Typing::activate(form.get());
+    list(*form).setFocus();
+    Typing::press(Qt::Key_Escape);
+    EXPECT_FALSE(form->isVisible());
+    EXPECT_EQ(form->result(), TfrmRODefault::mrCancel);
 }

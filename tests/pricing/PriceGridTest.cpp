@@ -77,16 +77,14 @@ const QString Nbsp = QStringLiteral("\u00a0");
 
 } // namespace
 
-TEST_F(PriceGrid, TheMenuAsksForRangesWhileThereAreFewerThanTwo)
+TEST_F(PriceGrid, TheMenuAsksForRangesWhileThereAreFewerThanTwoOnBothAxesTogether)
 {
     auto menu = TfrmRODefault::create<TfrmCennikMenu>(nullptr);
-    EXPECT_EQ(menu->windowTitle(), "Cennik");
-    EXPECT_EQ(menu->lblHeader->text(), "Menu cennik");
     EXPECT_FALSE(menu->BitBtn2->isVisibleTo(menu.get()));
 
     scriptedMessages().expect(MessageService::No);
     menu->BitBtn1->click();
-    const auto &question = scriptedMessages().shown().back();
+    const auto question = scriptedMessages().shown().back();
     EXPECT_EQ(question.caption, "Cenniki");
     EXPECT_EQ(question.text, "Musisz zdefiniować najpierw przedziały kilometrowe i wagowe. "
                              "Chcesz to zrobić teraz?");
@@ -100,13 +98,9 @@ TEST_F(PriceGrid, TheMenuAsksForRangesWhileThereAreFewerThanTwo)
     });
     menu->BitBtn1->click();
     EXPECT_TRUE(scriptedModalRunner().allRun());
-}
 
-TEST_F(PriceGrid, TheMenuCountsBothAxesTogether)
-{
-    addKilometreRange(db.connection(), 0, 100);
     addKilometreRange(db.connection(), 101, 200);
-    auto menu = TfrmRODefault::create<TfrmCennikMenu>(nullptr);
+    scriptedMessages().clear();
     scriptedModalRunner().expect<TfrmCenniki>([](TfrmCenniki &grid) {
         EXPECT_EQ(grid.RowCount(), 3);
         EXPECT_EQ(grid.ColCount(), 1);
@@ -117,9 +111,10 @@ TEST_F(PriceGrid, TheMenuCountsBothAxesTogether)
     EXPECT_TRUE(scriptedMessages().shown().empty());
 }
 
-TEST_F(PriceGrid, RangesHeadTheRowsAndColumnsAndCellsShowTheMainPriceList)
+TEST_F(PriceGrid, RangesHeadTheGridWhichShowsTheChosenOpenGroupsCells)
 {
     seedGrid();
+    addCell(db.connection(), {.group = 0, .row = 9999, .column = light, .amount = 55.0});
     auto grid = openGrid();
     EXPECT_EQ(grid->lblHeaderDescription->text(), "Edycja cennika");
     ASSERT_EQ(grid->RowCount(), 3);
@@ -130,44 +125,24 @@ TEST_F(PriceGrid, RangesHeadTheRowsAndColumnsAndCellsShowTheMainPriceList)
     EXPECT_EQ(grid->Cells(2, 0), "1001-24000");
     EXPECT_EQ(grid->Cells(2, 2), "1" + Nbsp + "234,50");
     EXPECT_EQ(grid->Cells(1, 1), "");
-}
+    // A cell of a deleted range is skipped.
+    for (int column = 1; column < grid->ColCount(); ++column) {
+        for (int row = 1; row < grid->RowCount(); ++row)
+            EXPECT_NE(grid->Cells(column, row), "55,00");
+    }
 
-TEST_F(PriceGrid, ABlockedGroupIsNotOfferedButKeepsItsCells)
-{
-    seedGrid();
-    auto grid = openGrid();
+    // A blocked group is not offered but keeps its cells.
     ASSERT_EQ(grid->cbCennik->count(), 2);
     EXPECT_EQ(grid->cbCennik->itemText(0), " --- GŁÓWNY ---");
     EXPECT_EQ(grid->cbCennik->currentIndex(), 0);
     EXPECT_EQ(grid->cbCennik->itemText(1), "Klienci kluczowi");
-    EXPECT_EQ(grid->cbCennik->findText(QStringLiteral("Stary cennik")), -1);
     EXPECT_EQ(cells(QStringLiteral("GRUPA = %1").arg(blocked)), 1);
-
     grid->cbCennik->setCurrentIndex(1);
     EXPECT_EQ(grid->Cells(1, 1), "99,00");
     EXPECT_EQ(grid->Cells(2, 2), "");
 }
 
-TEST_F(PriceGrid, ZeroInAnEmptyCellStoresNothingAndAPositiveAmountStoresIt)
-{
-    seedGrid();
-    auto grid = openGrid();
-    double shown = -1.0;
-    editCell(*grid, 1, 2, 0.0, &shown);
-    EXPECT_DOUBLE_EQ(shown, 0.0);
-    EXPECT_EQ(grid->windowTitle(), "1,2");
-    EXPECT_EQ(cells(QStringLiteral("GRUPA = 0")), 1);
-
-    editCell(*grid, 1, 2, 450.0);
-    EXPECT_EQ(cells(QStringLiteral("GRUPA = 0 AND KILOMETRY = %1 AND KILOGRAMY = %2 AND "
-                                   "KWOTA = 450")
-                        .arg(far)
-                        .arg(light)),
-              1);
-    EXPECT_EQ(grid->Cells(1, 2), "450,00");
-}
-
-TEST_F(PriceGrid, AFilledCellIsUpdatedAndZeroOrLessDeletesIt)
+TEST_F(PriceGrid, AFilledCellIsUpdatedOrDeletedByZeroAndAnEmptyOneFilledOnlyByAnAmount)
 {
     seedGrid();
     auto grid = openGrid();
@@ -185,34 +160,36 @@ TEST_F(PriceGrid, AFilledCellIsUpdatedAndZeroOrLessDeletesIt)
     EXPECT_EQ(cells(QStringLiteral("GRUPA = %1 AND KWOTA = 105.5").arg(open)), 1);
     EXPECT_EQ(grid->Cells(1, 1), "105,50");
 
-    editCell(*grid, 1, 1, -3.0);
-    EXPECT_EQ(cells(QStringLiteral("GRUPA = %1").arg(open)), 0);
-    EXPECT_EQ(grid->Cells(1, 1), "");
-    EXPECT_EQ(cells(QStringLiteral("GRUPA = %1").arg(blocked)), 1);
-}
-
-TEST_F(PriceGrid, CancellingTheAmountChangesNothing)
-{
-    seedGrid();
-    auto grid = openGrid();
+    // Cancelled, even zero changes nothing.
     scriptedModalRunner().expect<TfrmAddEditCenniki>([](TfrmAddEditCenniki &d) {
         d.edStawka->setValue(0.0);
         return 2;
     });
-    grid->sgCennik->setCurrentCell(1, 1);
+    grid->sgCennik->setCurrentCell(0, 0);
     grid->sgCennikDblClick();
-    EXPECT_EQ(cells(QStringLiteral("GRUPA = 0 AND KWOTA = 1234.5")), 1);
-}
+    EXPECT_TRUE(scriptedModalRunner().allRun());
+    EXPECT_EQ(cells(QStringLiteral("GRUPA = %1 AND KWOTA = 105.5").arg(open)), 1);
 
-TEST_F(PriceGrid, CellsOfADeletedRangeAreSkipped)
-{
-    seedGrid();
-    addCell(db.connection(), {.group = 0, .row = 9999, .column = light, .amount = 55.0});
-    auto grid = openGrid();
-    for (int column = 1; column < grid->ColCount(); ++column) {
-        for (int row = 1; row < grid->RowCount(); ++row)
-            EXPECT_NE(grid->Cells(column, row), "55,00");
-    }
+    editCell(*grid, 1, 1, -3.0);
+    EXPECT_EQ(cells(QStringLiteral("GRUPA = %1").arg(open)), 0);
+    EXPECT_EQ(grid->Cells(1, 1), "");
+    EXPECT_EQ(cells(QStringLiteral("GRUPA = %1").arg(blocked)), 1);
+
+    // In an empty cell of the main list zero stores nothing, an amount is stored.
+    grid->cbCennik->setCurrentIndex(0);
+    double shown = -1.0;
+    editCell(*grid, 1, 2, 0.0, &shown);
+    EXPECT_DOUBLE_EQ(shown, 0.0);
+    EXPECT_EQ(grid->windowTitle(), "1,2");
+    EXPECT_EQ(cells(QStringLiteral("GRUPA = 0")), 1);
+
+    editCell(*grid, 1, 2, 450.0);
+    EXPECT_EQ(cells(QStringLiteral("GRUPA = 0 AND KILOMETRY = %1 AND KILOGRAMY = %2 AND "
+                                   "KWOTA = 450")
+                        .arg(far)
+                        .arg(light)),
+              1);
+    EXPECT_EQ(grid->Cells(1, 2), "450,00");
 }
 
 TEST_F(PriceGrid, TheClientViewerListsClientsOfThePriceList)

@@ -41,32 +41,24 @@ protected:
 
 } // namespace
 
-TEST_F(PriceLookupTest, BothBoundsOfARangeBelongToIt)
+TEST_F(PriceLookupTest, BothBoundsOfARangeBelongToItTonnesAreRoundedKilogramsAndTheGroupChooses)
 {
     EXPECT_DOUBLE_EQ(amount(0, 100, 1.0), 100.0 * upTo100 + 1.0);
     EXPECT_DOUBLE_EQ(amount(0, 51, 1.0), 100.0 * upTo100 + 1.0);
     EXPECT_DOUBLE_EQ(amount(0, 50, 1.0), 100.0 * upTo50 + 1.0);
     EXPECT_DOUBLE_EQ(amount(0, 101, 1.0), 100.0 * upTo200 + 1.0);
     EXPECT_DOUBLE_EQ(amount(0, 0, 0.0), 100.0 * upTo50 + 1.0);
-}
-
-TEST_F(PriceLookupTest, TonnesAreLookedUpAsRoundedKilograms)
-{
+    // Tonnes are looked up as rounded kilograms.
     EXPECT_EQ(PriceLookup::kilograms(12.345), 12345);
     EXPECT_EQ(PriceLookup::kilograms(12.3444), 12344);
     EXPECT_EQ(PriceLookup::kilograms(12.3446), 12345);
     EXPECT_DOUBLE_EQ(amount(0, 80, 12.345), 100.0 * upTo100 + 2.0);
     EXPECT_DOUBLE_EQ(amount(0, 80, 12.344), 100.0 * upTo100 + 1.0);
-}
-
-TEST_F(PriceLookupTest, TheGroupChoosesThePriceList)
-{
+    // The group chooses the price list.
     EXPECT_DOUBLE_EQ(amount(group, 150, 2.0), 1000.0 * upTo200 + 1.0);
     EXPECT_DOUBLE_EQ(amount(0, 150, 2.0), 100.0 * upTo200 + 1.0);
-}
 
-TEST_F(PriceLookupTest, NothingMatchingGivesZeroWithoutAMessage)
-{
+    // Nothing matching gives zero without a message.
     EXPECT_DOUBLE_EQ(amount(0, 201, 1.0), 0.0);      // beyond the last distance
     EXPECT_DOUBLE_EQ(amount(0, 80, 24.001), 0.0);    // beyond the last weight
     EXPECT_DOUBLE_EQ(amount(group, 80, 20.0), 0.0);  // the group has no such cell

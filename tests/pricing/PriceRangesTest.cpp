@@ -45,23 +45,18 @@ protected:
 
 } // namespace
 
-TEST_P(PriceRangesTest, UpperBoundsInAnyOrderBecomeContiguousRanges)
+TEST_P(PriceRangesTest, UpperBoundsInAnyOrderBecomeContiguousRangesRenumberedOnChange)
 {
     const int middle = add(100);
     add(50);
-    add(200);
+    const int last = add(200);
     EXPECT_EQ(ranges(), (QStringList{"0-50", "51-100", "101-200"}));
     const PriceRange loaded = PriceRanges::load(db.connection(), axis(), middle);
     EXPECT_EQ(loaded.key, middle);
     EXPECT_EQ(loaded.from, 51);
     EXPECT_EQ(loaded.to, 100);
-}
 
-TEST_P(PriceRangesTest, ChangingOrRemovingARangeRenumbersTheAxis)
-{
-    add(50);
-    const int middle = add(100);
-    const int last = add(200);
+    // Changing or removing a range renumbers the axis.
     PriceRanges::change(db.connection(), axis(), middle, 150);
     EXPECT_EQ(ranges(), (QStringList{"0-50", "51-150", "151-200"}));
     PriceRanges::remove(db.connection(), axis(), middle);
@@ -69,24 +64,20 @@ TEST_P(PriceRangesTest, ChangingOrRemovingARangeRenumbersTheAxis)
     EXPECT_EQ(PriceRanges::load(db.connection(), axis(), last).from, 51);
 }
 
-TEST_P(PriceRangesTest, TheDuplicateTestLeavesOutTheRangeBeingEdited)
+TEST_P(PriceRangesTest, TheDuplicateTestLeavesOutTheRangeBeingEditedAndUsageCountsCells)
 {
     const int first = add(50);
-    add(100);
+    const int second = add(100);
     Connection &c = db.connection();
     EXPECT_TRUE(PriceRanges::exists(c, PriceRanges::duplicateTest(axis()), 100));
     EXPECT_FALSE(PriceRanges::exists(c, PriceRanges::duplicateTest(axis()), 75));
     EXPECT_FALSE(PriceRanges::exists(c, PriceRanges::duplicateTest(axis(), first), 50));
     EXPECT_TRUE(PriceRanges::exists(c, PriceRanges::duplicateTest(axis(), first), 100));
-}
 
-TEST_P(PriceRangesTest, UsageCountsTheCellsOnTheRangeAndTheTotalBothAxes)
-{
-    const int used = add(50);
-    const int unused = add(100);
-    useInACell(used);
-    EXPECT_EQ(PriceRanges::usage(db.connection(), axis(), used), 1);
-    EXPECT_EQ(PriceRanges::usage(db.connection(), axis(), unused), 0);
+    // Usage counts the cells on the range; the total counts both axes.
+    useInACell(first);
+    EXPECT_EQ(PriceRanges::usage(c, axis(), first), 1);
+    EXPECT_EQ(PriceRanges::usage(c, axis(), second), 0);
     EXPECT_EQ(PriceRanges::totalCount(db.connection()), 3);
 }
 

@@ -45,20 +45,16 @@ protected:
             });
     }
 
-    // "from-to" of every range of an axis, in the database's order.
-    QStringList ranges(const QString &table, const QString &from, const QString &to)
+    // "from-to" of every kilometre range, in the database's order.
+    QStringList kilometres()
     {
         QStringList result;
         Statement st(db.connection());
-        st.add(QStringLiteral("SELECT %1, %2 FROM %3 ORDER BY %2").arg(from, to, table));
+        st.add(QStringLiteral("SELECT ZAKRES_WOD, ZAKRES_WDO FROM CENNIKI_KRAJ_WIERSZE "
+                              "ORDER BY ZAKRES_WDO"));
         for (st.exec(); !st.atEnd(); st.next())
             result << QStringLiteral("%1-%2").arg(st.integer(0)).arg(st.integer(1));
         return result;
-    }
-    QStringList kilometres()
-    {
-        return ranges(QStringLiteral("CENNIKI_KRAJ_WIERSZE"), QStringLiteral("ZAKRES_WOD"),
-                      QStringLiteral("ZAKRES_WDO"));
     }
     static QStringList shown(const TListView &list)
     {
@@ -80,52 +76,17 @@ const QStringList ThreeRanges{"0-50", "51-100", "101-200"};
 
 } // namespace
 
-TEST_F(RangeEditor, OpensWithThreePagesAndNoAuthorWarnings)
-{
-    auto form = open();
-    EXPECT_EQ(form->windowTitle(), "Edycja wierszy i kolumn");
-    EXPECT_EQ(form->lblHeaderDescription->text(), "Cenniki");
-    EXPECT_EQ(form->btnCancel->text(), "&Zamknij");
-    EXPECT_EQ(form->btnDodajWiersz->text(), "&Dodaj");
-    EXPECT_EQ(form->btnUsunKolumne->text(), "Usuń");
-    EXPECT_EQ(form->lvGrupy->columnCaption(1), "Blokada");
-    EXPECT_TRUE(scriptedMessages().shown().empty());
-}
-
-TEST_F(RangeEditor, UpperBoundsInAnyOrderBecomeContiguousRanges)
-{
-    auto form = open();
-    for (int bound : {100, 50, 200}) {
-        enter(bound);
-        form->btnDodajWiersz->click();
-    }
-    EXPECT_EQ(kilometres(), ThreeRanges);
-    EXPECT_EQ(shown(*form->lvWiersze), ThreeRanges);
-    // The last one added is selected.
-    EXPECT_EQ(form->lvWiersze->text(form->lvWiersze->selectedIndex(), 1), "200");
-}
-
-TEST_F(RangeEditor, TheDialogShowsTheUnitOfItsAxis)
-{
-    auto form = open();
-    scriptedModalRunner().expect<TfrmAddEditCennikWierszeKolumny>(
-        [](TfrmAddEditCennikWierszeKolumny &d) {
-            d.edWartosc->setValue(12000);
-            EXPECT_EQ(d.edWartosc->text(), QStringLiteral("12\u00a0000 kg"));
-            EXPECT_EQ(d.windowTitle(), "Edycja");
-            return 2;
-        });
-    form->btnDodajKolumne->click();
-    EXPECT_EQ(db.count(QStringLiteral("CENNIKI_KRAJ_KOLUMNY")), 0);
-}
-
-TEST_F(RangeEditor, ADuplicateUpperBoundIsRefusedAndTheDialogStaysOpen)
+TEST_F(RangeEditor, ADuplicateUpperBoundIsRefusedAndADoubleClickCorrectsARange)
 {
     addKilogramRange(db.connection(), 0, 1000);
     auto form = open();
     scriptedMessages().expect();
     scriptedModalRunner().expect<TfrmAddEditCennikWierszeKolumny>(
         [](TfrmAddEditCennikWierszeKolumny &d) {
+            // The dialog shows the unit of its axis.
+            d.edWartosc->setValue(12000);
+            EXPECT_EQ(d.edWartosc->text(), QStringLiteral("12\u00a0000 kg"));
+            EXPECT_EQ(d.windowTitle(), "Edycja");
             d.edWartosc->setValue(1000);
             d.btnOk->click();
             EXPECT_TRUE(d.isVisible());
@@ -139,6 +100,20 @@ TEST_F(RangeEditor, ADuplicateUpperBoundIsRefusedAndTheDialogStaysOpen)
     EXPECT_EQ(box.text, "Pozycja z taką wartością już istnieje! Zapis do bazy niemożliwy.");
     EXPECT_EQ(box.icon, MessageService::Icon::None);
     EXPECT_EQ(db.count(QStringLiteral("CENNIKI_KRAJ_KOLUMNY")), 1);
+
+    // A double click on the range opens it for correction.
+    form->show();
+    form->PageControl1->setCurrentWidget(form->tsKilogramy);
+    TListView &list = *form->lvKolumny;
+    list.setSelectedIndex(0);
+    scriptedModalRunner().expect<TfrmAddEditCennikWierszeKolumny>(
+        [](TfrmAddEditCennikWierszeKolumny &d) {
+            EXPECT_EQ(d.value(), 1000);
+            return 2;
+        });
+    const QRect row = list.visualRect(list.model()->index(0, 0));
+    QTest::mouseDClick(list.viewport(), Qt::LeftButton, {}, row.center());
+    EXPECT_TRUE(scriptedModalRunner().allRun());
 }
 
 TEST_F(RangeEditor, EditingKeepsAnUnchangedBoundRefusesAnotherRangesAndRenumbers)
@@ -164,76 +139,37 @@ TEST_F(RangeEditor, EditingKeepsAnUnchangedBoundRefusesAnotherRangesAndRenumbers
     EXPECT_EQ(form->lvWiersze->text(form->lvWiersze->selectedIndex(), 1), "150");
 }
 
-TEST_F(RangeEditor, ARangeUsedByACellIsNotDeleted)
+TEST_F(RangeEditor, ARangeUsedByACellStaysAnUnusedOneIsDeletedAfterAskingAndRenumbers)
 {
-    const int used = addKilometreRange(db.connection(), 0, 50);
-    addKilometreRange(db.connection(), 51, 100);
+    addKilometreRange(db.connection(), 0, 50);
+    const int used = addKilometreRange(db.connection(), 51, 100);
     addKilometreRange(db.connection(), 101, 200);
     const int column = addKilogramRange(db.connection(), 0, 1000);
     addCell(db.connection(), {.group = 0, .row = used, .column = column, .amount = 120.0});
     auto form = open();
 
-    select(*form->lvWiersze, QStringLiteral("50"));
+    select(*form->lvWiersze, QStringLiteral("100"));
     scriptedMessages().expect();
     form->btnUsunWiersz->click();
-    const auto &refusal = scriptedMessages().shown().back();
+    const auto refusal = scriptedMessages().shown().back();
     EXPECT_EQ(refusal.caption, "Usuwanie");
     EXPECT_EQ(refusal.text, "Nie można usunąć pozycji, gdyż jest ona używana w cennikach! ");
     EXPECT_EQ(refusal.icon, MessageService::Icon::Information);
     EXPECT_EQ(kilometres(), ThreeRanges);
-
     select(*form->lvKolumny, QStringLiteral("1000"));
     scriptedMessages().expect();
     form->btnUsunKolumne->click();
     EXPECT_EQ(db.count(QStringLiteral("CENNIKI_KRAJ_KOLUMNY")), 1);
-}
 
-TEST_F(RangeEditor, DeletingAnUnusedRangeAsksAndRenumbers)
-{
-    for (auto [from, to] : {std::pair{0, 50}, {51, 100}, {101, 200}})
-        addKilometreRange(db.connection(), from, to);
-    auto form = open();
     select(*form->lvWiersze, QStringLiteral("50"));
     scriptedMessages().expect(MessageService::No);
     form->btnUsunWiersz->click();
     EXPECT_EQ(scriptedMessages().shown().back().text, "Czy na pewno usunąć pozycję?");
     EXPECT_EQ(kilometres(), ThreeRanges);
-
     scriptedMessages().expect(MessageService::Yes);
     form->btnUsunWiersz->click();
     EXPECT_EQ(kilometres(), (QStringList{"0-100", "101-200"}));
     EXPECT_EQ(shown(*form->lvWiersze), (QStringList{"0-100", "101-200"}));
-}
-
-TEST_F(RangeEditor, GroupsAreAddedAndCorrectedWithTheirBlockedFlag)
-{
-    auto form = open();
-    scriptedModalRunner().expect<TfrmAddEditGrupy>([](TfrmAddEditGrupy &d) {
-        EXPECT_EQ(d.windowTitle(), "Edycja grupy");
-        EXPECT_EQ(d.edNazwa->maxLength(), 50);
-        d.edNazwa->setText(QStringLiteral("Chłodnie"));
-        d.btnOk->click();
-        return d.result();
-    });
-    form->btnDodajGrupe->click();
-    ASSERT_EQ(form->lvGrupy->itemCount(), 1);
-    EXPECT_EQ(form->lvGrupy->selectedIndex(), 0);
-    EXPECT_EQ(form->lvGrupy->text(0, 1), "");
-
-    scriptedModalRunner().expect<TfrmAddEditGrupy>([](TfrmAddEditGrupy &d) {
-        EXPECT_EQ(d.edNazwa->text(), "Chłodnie");
-        EXPECT_FALSE(d.cbBlokada->isChecked());
-        d.edNazwa->setText(QStringLiteral("Chłodnie 2024"));
-        d.cbBlokada->setChecked(true);
-        d.btnOk->click();
-        return d.result();
-    });
-    form->btnPoprawGrupe->click();
-    EXPECT_EQ(form->lvGrupy->text(0, 0), "Chłodnie 2024");
-    EXPECT_EQ(form->lvGrupy->text(0, 1), "T");
-    EXPECT_EQ(db.count(QStringLiteral("CENNIKI_KRAJ_GRUPY"),
-                       QStringLiteral("NAZWA = 'Chłodnie 2024' AND BLOKADA = 1")),
-              1);
 }
 
 TEST_F(RangeEditor, AUsedGroupIsKeptAnUnusedOneDeletedAfterAsking)
@@ -268,49 +204,38 @@ TEST_F(RangeEditor, AUsedGroupIsKeptAnUnusedOneDeletedAfterAsking)
     EXPECT_EQ(db.count(QStringLiteral("CENNIKI_KRAJ_GRUPY"), QStringLiteral("NAZWA = 'Chłodnie'")), 1);
 }
 
-TEST_F(RangeEditor, DoubleClickingARangeCorrectsIt)
-{
-    addKilogramRange(db.connection(), 0, 1000);
-    auto form = open();
-    form->show();
-    form->PageControl1->setCurrentWidget(form->tsKilogramy);
-    TListView &list = *form->lvKolumny;
-    list.setSelectedIndex(0);
-    scriptedModalRunner().expect<TfrmAddEditCennikWierszeKolumny>(
-        [](TfrmAddEditCennikWierszeKolumny &d) {
-            EXPECT_EQ(d.value(), 1000);
-            return 2;
-        });
-    const QRect row = list.visualRect(list.model()->index(0, 0));
-    QTest::mouseDClick(list.viewport(), Qt::LeftButton, {}, row.center());
-    EXPECT_TRUE(scriptedModalRunner().allRun());
-}
-
-TEST_F(RangeEditor, AfterAddingTheBoundIsTypedAndEnterSavesNothingByItself)
+TEST_F(RangeEditor, UpperBoundsTypedInAnyOrderBecomeContiguousRangesEnterSavesNothing)
 {
     auto form = open();
+    EXPECT_TRUE(scriptedMessages().shown().empty());
     Typing::activate(form.get());
-    scriptedModalRunner().expect<TfrmAddEditCennikWierszeKolumny>(
-        [](TfrmAddEditCennikWierszeKolumny &d) {
-            Typing::activate(&d);
-            EXPECT_EQ(QApplication::focusWidget(), d.edWartosc);
-            Typing::press(Qt::Key_Return);
-            EXPECT_TRUE(d.isVisible());
-            Typing::keys(QStringLiteral("150"));
-            Typing::accelerator(Qt::Key_Z);
-            return d.result();
-        });
-    Typing::click(form->btnDodajWiersz);
-    EXPECT_EQ(kilometres(), (QStringList{"0-150"}));
+    for (const char *bound : {"100", "50", "200"}) {
+        scriptedModalRunner().expect<TfrmAddEditCennikWierszeKolumny>(
+            [bound](TfrmAddEditCennikWierszeKolumny &d) {
+                Typing::activate(&d);
+                EXPECT_EQ(QApplication::focusWidget(), d.edWartosc);
+                Typing::press(Qt::Key_Return);
+                EXPECT_TRUE(d.isVisible());
+                Typing::keys(QString::fromLatin1(bound));
+                Typing::accelerator(Qt::Key_Z);
+                return d.result();
+            });
+        Typing::click(form->btnDodajWiersz);
+    }
+    EXPECT_EQ(kilometres(), ThreeRanges);
+    EXPECT_EQ(shown(*form->lvWiersze), ThreeRanges);
+    // The last one added is selected.
+    EXPECT_EQ(form->lvWiersze->text(form->lvWiersze->selectedIndex(), 1), "200");
 }
 
-TEST_F(RangeEditor, TheGroupEditorSavesWithAltZAndClosesWithAltM)
+TEST_F(RangeEditor, AGroupTypedIsSavedWithAltZNotWithAltMAndCorrectedWithItsBlockedFlag)
 {
     auto form = open();
     Typing::activate(form.get());
     const auto typeName = [](const QString &name, Qt::Key accelerator) {
         scriptedModalRunner().expect<TfrmAddEditGrupy>([=](TfrmAddEditGrupy &d) {
             Typing::activate(&d);
+            EXPECT_EQ(d.edNazwa->maxLength(), 50);
             // One button per accelerator letter, or Alt+Z would only move
             // the focus between the two.
             QSet<QChar> letters;
@@ -333,6 +258,24 @@ TEST_F(RangeEditor, TheGroupEditorSavesWithAltZAndClosesWithAltM)
     typeName(QStringLiteral("Plandeki"), Qt::Key_M);
     Typing::click(form->btnDodajGrupe);
     EXPECT_EQ(db.count(QStringLiteral("CENNIKI_KRAJ_GRUPY")), 1);
-    EXPECT_EQ(db.count(QStringLiteral("CENNIKI_KRAJ_GRUPY"), QStringLiteral("NAZWA = 'Chłodnie'")),
+    ASSERT_EQ(form->lvGrupy->itemCount(), 1);
+    EXPECT_EQ(form->lvGrupy->selectedIndex(), 0);
+    EXPECT_EQ(form->lvGrupy->text(0, 0), "Chłodnie");
+    EXPECT_EQ(form->lvGrupy->text(0, 1), "");
+
+    scriptedModalRunner().expect<TfrmAddEditGrupy>([](TfrmAddEditGrupy &d) {
+        EXPECT_EQ(d.edNazwa->text(), "Chłodnie");
+        EXPECT_FALSE(d.cbBlokada->isChecked());
+        Typing::into(d.edNazwa, QStringLiteral("Chłodnie 2024"));
+        // On the box itself: the check box is wider than its text.
+        QTest::mouseClick(d.cbBlokada, Qt::LeftButton, {}, QPoint(6, d.cbBlokada->height() / 2));
+        Typing::click(d.btnOk);
+        return d.result();
+    });
+    Typing::click(form->btnPoprawGrupe);
+    EXPECT_EQ(form->lvGrupy->text(0, 0), "Chłodnie 2024");
+    EXPECT_EQ(form->lvGrupy->text(0, 1), "T");
+    EXPECT_EQ(db.count(QStringLiteral("CENNIKI_KRAJ_GRUPY"),
+                       QStringLiteral("NAZWA = 'Chłodnie 2024' AND BLOKADA = 1")),
               1);
 }

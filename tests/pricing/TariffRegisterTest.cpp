@@ -63,10 +63,9 @@ protected:
 
 } // namespace
 
-TEST_F(TariffRegister, ShowsOnlyTheChosenKind)
+TEST_F(TariffRegister, ShowsOnlyTheKindChosenByItsOpenerOrInTheFilter)
 {
     auto form = open(0, 0);
-    EXPECT_EQ(form->windowTitle(), "Stawki taryfowe");
     EXPECT_EQ(form->btnOk->text(), "&Wybierz");
     EXPECT_EQ(form->cbFilter->currentText(), "przewoźnika");
     EXPECT_EQ(captions(*form), QStringList{"Podwykonawca"});
@@ -76,17 +75,15 @@ TEST_F(TariffRegister, ShowsOnlyTheChosenKind)
     const int row = list(*form).findByKey(own);
     EXPECT_EQ(list(*form).items().texts(row),
               (QStringList{"Krajowa standard", "0", "3,20", "12,50", "45,00", "85,00"}));
-}
 
-TEST_F(TariffRegister, TheOpenersKindIndexFollowsItsRule)
-{
+    // The opener's kind: 1 and 0 as given, other numbers as 0, -1 and 2 none.
     EXPECT_EQ(open(0, 1)->cbFilter->currentIndex(), 1);
     EXPECT_EQ(open(0, -7)->cbFilter->currentIndex(), 0);
     EXPECT_EQ(open(0, 3)->cbFilter->currentIndex(), 0);
     for (int noKind : {-1, 2}) {
-        auto form = open(0, noKind);
-        EXPECT_EQ(form->cbFilter->currentIndex(), -1);
-        EXPECT_EQ(list(*form).itemCount(), 0);
+        auto none = open(0, noKind);
+        EXPECT_EQ(none->cbFilter->currentIndex(), -1);
+        EXPECT_EQ(list(*none).itemCount(), 0);
     }
 }
 

@@ -11,11 +11,11 @@ namespace {
 class ConfigurationTest : public testing::Test
 {
 protected:
-    void add(const QString &pole, const QString &typ, const QString &values)
+    void add(const char *pole, const char *typ, const char *values)
     {
         db.exec(QStringLiteral("INSERT INTO KONFIGURACJA (POLE, TYP, VALUE_INT, VALUE_STRING, "
                                "VALUE_FLOAT, VALUE_DATE) VALUES ('%1', '%2', %3)")
-                    .arg(pole, typ, values));
+                    .arg(QString::fromUtf8(pole), QLatin1String(typ), QString::fromUtf8(values)));
     }
 
     QByteArray errorLog() const
@@ -32,10 +32,8 @@ protected:
 
 TEST_F(ConfigurationTest, FloatAndBoolFindAMixedCaseNameByItsUpperCaseAndIntAndStringDoNot)
 {
-    add(QStringLiteral("SystemMonitorDelete"), QStringLiteral("B"),
-        QStringLiteral("1, NULL, NULL, NULL"));
-    add(QStringLiteral("KursDomyslny"), QStringLiteral("F"),
-        QStringLiteral("NULL, NULL, 4.25, NULL"));
+    add("SystemMonitorDelete", "B", "1, NULL, NULL, NULL");
+    add("KursDomyslny", "F", "NULL, NULL, 4.25, NULL");
 
     EXPECT_TRUE(config.GetConfigBool(QStringLiteral("SYSTEMMONITORDELETE")));
     EXPECT_FALSE(config.GetConfigBool(QStringLiteral("SystemMonitorDelete")));
@@ -46,25 +44,28 @@ TEST_F(ConfigurationTest, FloatAndBoolFindAMixedCaseNameByItsUpperCaseAndIntAndS
     EXPECT_DOUBLE_EQ(config.GetConfigFloat(QStringLiteral("KursDomyslny")), 0.0);
     EXPECT_EQ(config.GetConfigString(QStringLiteral("KURSDOMYSLNY")), QString());
     EXPECT_EQ(config.GetConfigString(QStringLiteral("KursDomyslny")), QStringLiteral("4,25"));
-}
 
-TEST_F(ConfigurationTest, PolishLettersInTheNameAreUpperCasedByTheDatabase)
-{
-    add(QStringLiteral("IDWłaściciela"), QStringLiteral("I"), QStringLiteral("7, NULL, NULL, NULL"));
+    // Polish letters in the name are upper-cased by the database.
+    add("IDWłaściciela", "I", "7, NULL, NULL, NULL");
     EXPECT_EQ(config.GetConfigInt(QStringLiteral("IDWłaściciela")), 7);
     EXPECT_DOUBLE_EQ(config.GetConfigFloat(QStringLiteral("IDWŁAŚCICIELA")), 7.0);
     EXPECT_TRUE(config.GetConfigBool(QStringLiteral("IDWŁAŚCICIELA")));
 }
 
-TEST_F(ConfigurationTest, IntConvertsEveryType)
+TEST_F(ConfigurationTest, EachGetterConvertsEveryType)
 {
-    add(QStringLiteral("i"), QStringLiteral("I"), QStringLiteral("12, '99', 5.0, NULL"));
-    add(QStringLiteral("s"), QStringLiteral("S"), QStringLiteral("12, ' 123', 5.0, NULL"));
-    add(QStringLiteral("f1"), QStringLiteral("F"), QStringLiteral("12, '99', 2.5, NULL"));
-    add(QStringLiteral("f2"), QStringLiteral("F"), QStringLiteral("12, '99', 3.5, NULL"));
-    add(QStringLiteral("f3"), QStringLiteral("F"), QStringLiteral("12, '99', -2.6, NULL"));
-    add(QStringLiteral("b"), QStringLiteral("B"), QStringLiteral("3, '99', 5.0, NULL"));
-    add(QStringLiteral("d"), QStringLiteral("D"), QStringLiteral("12, '99', 5.0, '2024-03-05'"));
+    add("i", "I", "12, '99', 5.0, NULL");
+    add("s", "S", "12, ' 123', 5.0, NULL");
+    add("s2", "S", "42, 'FV;/;%####', 1.5, NULL");
+    add("s3", "S", "3, '7,5', 1.5, NULL");
+    add("S4", "S", "3, '7.25', 1.5, NULL");
+    add("f1", "F", "12, '99', 2.5, NULL");
+    add("f2", "F", "12, '99', 3.5, NULL");
+    add("f3", "F", "12, '99', -2.6, NULL");
+    add("f4", "F", "42, 'x', 1234.5, NULL");
+    add("b", "B", "3, '1', 5.0, NULL");
+    add("d", "D", "12, '99', 5.0, '2024-03-05 10:30'");
+    add("Z", "I", "0, '1', 1.5, NULL");
 
     EXPECT_EQ(config.GetConfigInt(QStringLiteral("i")), 12);
     EXPECT_EQ(config.GetConfigInt(QStringLiteral("s")), 123);
@@ -74,42 +75,23 @@ TEST_F(ConfigurationTest, IntConvertsEveryType)
     EXPECT_EQ(config.GetConfigInt(QStringLiteral("f3")), -3);
     EXPECT_EQ(config.GetConfigInt(QStringLiteral("b")), 3);
     EXPECT_EQ(config.GetConfigInt(QStringLiteral("d")), 0);
-}
 
-TEST_F(ConfigurationTest, StringConvertsEveryType)
-{
-    add(QStringLiteral("i"), QStringLiteral("I"), QStringLiteral("42, 'x', 1.5, NULL"));
-    add(QStringLiteral("s"), QStringLiteral("S"), QStringLiteral("42, 'FV;/;%####', 1.5, NULL"));
-    add(QStringLiteral("d"), QStringLiteral("D"), QStringLiteral("42, 'x', 1.5, '2024-03-05 10:30'"));
-    add(QStringLiteral("f"), QStringLiteral("F"), QStringLiteral("42, 'x', 1234.5, NULL"));
-    add(QStringLiteral("b"), QStringLiteral("B"), QStringLiteral("1, 'x', 1.5, NULL"));
-
-    EXPECT_EQ(config.GetConfigString(QStringLiteral("i")), QStringLiteral("42"));
-    EXPECT_EQ(config.GetConfigString(QStringLiteral("s")), QStringLiteral("FV;/;%####"));
+    EXPECT_EQ(config.GetConfigString(QStringLiteral("i")), QStringLiteral("12"));
+    EXPECT_EQ(config.GetConfigString(QStringLiteral("s2")), QStringLiteral("FV;/;%####"));
     EXPECT_EQ(config.GetConfigString(QStringLiteral("d")), QStringLiteral("2024-03-05"));
-    EXPECT_EQ(config.GetConfigString(QStringLiteral("f")), QStringLiteral("1234,5"));
+    EXPECT_EQ(config.GetConfigString(QStringLiteral("f4")), QStringLiteral("1234,5"));
     EXPECT_EQ(config.GetConfigString(QStringLiteral("b")), QString());
-}
 
-TEST_F(ConfigurationTest, FloatAndBoolConvertTheirTypes)
-{
-    add(QStringLiteral("I"), QStringLiteral("I"), QStringLiteral("3, '7,5', 1.5, NULL"));
-    add(QStringLiteral("S1"), QStringLiteral("S"), QStringLiteral("3, '7,5', 1.5, NULL"));
-    add(QStringLiteral("S2"), QStringLiteral("S"), QStringLiteral("3, '7.25', 1.5, NULL"));
-    add(QStringLiteral("B"), QStringLiteral("B"), QStringLiteral("2, '1', 1.5, NULL"));
-    add(QStringLiteral("Z"), QStringLiteral("I"), QStringLiteral("0, '1', 1.5, NULL"));
-    add(QStringLiteral("F"), QStringLiteral("F"), QStringLiteral("1, '1', 1.5, NULL"));
-
-    EXPECT_DOUBLE_EQ(config.GetConfigFloat(QStringLiteral("I")), 3.0);
-    EXPECT_DOUBLE_EQ(config.GetConfigFloat(QStringLiteral("S1")), 7.5);
-    EXPECT_DOUBLE_EQ(config.GetConfigFloat(QStringLiteral("S2")), 7.25);
+    // Float and bool look the name up upper-cased.
+    EXPECT_DOUBLE_EQ(config.GetConfigFloat(QStringLiteral("I")), 12.0);
+    EXPECT_DOUBLE_EQ(config.GetConfigFloat(QStringLiteral("S3")), 7.5);
+    EXPECT_DOUBLE_EQ(config.GetConfigFloat(QStringLiteral("S4")), 7.25);
     EXPECT_DOUBLE_EQ(config.GetConfigFloat(QStringLiteral("B")), 0.0);
-
     EXPECT_TRUE(config.GetConfigBool(QStringLiteral("I")));
     EXPECT_TRUE(config.GetConfigBool(QStringLiteral("B")));
     EXPECT_FALSE(config.GetConfigBool(QStringLiteral("Z")));
-    EXPECT_FALSE(config.GetConfigBool(QStringLiteral("S1")));
-    EXPECT_FALSE(config.GetConfigBool(QStringLiteral("F")));
+    EXPECT_FALSE(config.GetConfigBool(QStringLiteral("S3")));
+    EXPECT_FALSE(config.GetConfigBool(QStringLiteral("F1")));
 }
 
 TEST_F(ConfigurationTest, AMissingRowGivesTheDefaults)
@@ -123,20 +105,16 @@ TEST_F(ConfigurationTest, AMissingRowGivesTheDefaults)
 
 // Two errors logged within one second share a line, so each is looked for
 // right after it happened.
-TEST_F(ConfigurationTest, AValueThatDoesNotConvertGivesTheDefaultAndIsLogged)
+TEST_F(ConfigurationTest, AValueThatDoesNotConvertOrADatabaseErrorGivesTheDefaultAndIsLogged)
 {
-    add(QStringLiteral("Zly"), QStringLiteral("S"), QStringLiteral("1, 'dwanaście', 1.5, NULL"));
-    add(QStringLiteral("OGROMNY"), QStringLiteral("F"), QStringLiteral("1, 'x', 1e12, NULL"));
+    add("Zly", "S", "1, 'dwanaście', 1.5, NULL");
+    add("OGROMNY", "F", "1, 'x', 1e12, NULL");
     EXPECT_EQ(config.GetConfigInt(QStringLiteral("Zly")), 0);
     EXPECT_TRUE(errorLog().contains("GetConfigInt(Zly)"));
     EXPECT_DOUBLE_EQ(config.GetConfigFloat(QStringLiteral("ZLY")), 0.0);
     EXPECT_TRUE(errorLog().contains("GetConfigFloat(ZLY)"));
     EXPECT_EQ(config.GetConfigInt(QStringLiteral("OGROMNY")), 0);
     EXPECT_TRUE(errorLog().contains("GetConfigInt(OGROMNY)"));
-}
-
-TEST_F(ConfigurationTest, ADatabaseErrorGivesTheDefaultAndIsLogged)
-{
     // A quote in a name breaks the statement text the name is written into.
     EXPECT_EQ(config.GetConfigInt(QStringLiteral("O'Brien")), 0);
     EXPECT_TRUE(errorLog().contains("GetConfigInt(O'Brien)"));

@@ -3,96 +3,66 @@
 
 #include <gtest/gtest.h>
 
-TEST(RoundTo2, DecidesOnTheThirdDecimalDigit)
+TEST(Money, RoundTo2DecidesOnTheThirdDigitAlsoBelowZeroRoundCentsToEvenOnTies)
 {
-    EXPECT_DOUBLE_EQ(Money::RoundTo2(2.345), 2.35);
-    EXPECT_DOUBLE_EQ(Money::RoundTo2(2.344), 2.34);
-    EXPECT_DOUBLE_EQ(Money::RoundTo2(2.3449), 2.34);
-    // Held in binary as 1.11499999..., and still rounded up by its digit.
-    EXPECT_DOUBLE_EQ(Money::RoundTo2(1.115), 1.12);
-    EXPECT_DOUBLE_EQ(Money::RoundTo2(123456.789), 123456.79);
-    EXPECT_DOUBLE_EQ(Money::RoundTo2(7.0), 7.0);
-    EXPECT_DOUBLE_EQ(Money::RoundTo2(0.0), 0.0);
+    const std::pair<double, double> cases[] = {
+        {2.345, 2.35}, {2.344, 2.34}, {2.3449, 2.34},
+        // Held in binary as 1.11499999..., and still rounded up by its digit.
+        {1.115, 1.12}, {123456.789, 123456.79}, {7.0, 7.0}, {0.0, 0.0},
+        {-1.005, -0.99}, {-2.344, -2.34}, {-2.346, -2.33}, {-0.005, 0.01},
+    };
+    for (const auto &[amount, rounded] : cases)
+        EXPECT_DOUBLE_EQ(Money::RoundTo2(amount), rounded) << amount;
     // Values whose decimal text runs to hundreds of digits.
     for (const double tiny : {1e-300, -1e-300, 4.9e-324, 0.000999})
         EXPECT_EQ(Money::RoundTo2(tiny), 0.0) << tiny;
-}
 
-TEST(RoundTo2, AddsTheCentAlsoBelowZero)
-{
-    EXPECT_DOUBLE_EQ(Money::RoundTo2(-1.005), -0.99);
-    EXPECT_DOUBLE_EQ(Money::RoundTo2(-2.344), -2.34);
-    EXPECT_DOUBLE_EQ(Money::RoundTo2(-2.346), -2.33);
-    EXPECT_DOUBLE_EQ(Money::RoundTo2(-0.005), 0.01);
-}
-
-TEST(RoundCentsToEven, TiesGoToTheEvenCent)
-{
+    // Rounding to the even cent, for currency conversions.
     EXPECT_DOUBLE_EQ(Money::RoundCentsToEven(0.125), 0.12);
     EXPECT_DOUBLE_EQ(Money::RoundCentsToEven(0.375), 0.38);
     EXPECT_DOUBLE_EQ(Money::RoundCentsToEven(10.0049), 10.0);
 }
 
-namespace {
-
-QString words(double amount)
+TEST(AmountInWords, WordsTheZlotyAndGivesTheGroszeAsAFraction)
 {
-    return AmountInWords::words(amount);
-}
-
-} // namespace
-
-TEST(AmountInWords, WordsSmallAmountsWithTheGroszeAsAFraction)
-{
-    EXPECT_EQ(words(0), QStringLiteral("00/100"));
-    EXPECT_EQ(words(1.00), QStringLiteral("jeden 00/100"));
-    EXPECT_EQ(words(12.50), QStringLiteral("dwanaście 50/100"));
-    EXPECT_EQ(words(10), QStringLiteral("dziesięć 00/100"));
-    EXPECT_EQ(words(11), QStringLiteral("jedenaście 00/100"));
-    EXPECT_EQ(words(19.99), QStringLiteral("dziewiętnaście 99/100"));
-    EXPECT_EQ(words(20.01), QStringLiteral("dwadzieścia 01/100"));
-    EXPECT_EQ(words(115), QStringLiteral("sto piętnaście 00/100"));
-    EXPECT_EQ(words(999), QStringLiteral("dziewięćset dziewięćdziesiąt dziewięć 00/100"));
-}
-
-TEST(AmountInWords, GroszeRoundedUpDoNotCarryIntoTheZloty)
-{
-    EXPECT_EQ(words(12.999), QStringLiteral("dwanaście 00/100"));
-    EXPECT_EQ(words(12.996), QStringLiteral("dwanaście 00/100"));
-    EXPECT_EQ(words(12.994), QStringLiteral("dwanaście 99/100"));
-}
-
-TEST(AmountInWords, ThousandsTakeTheFormOfTheirLastDigit)
-{
-    EXPECT_EQ(words(1000), QStringLiteral("jeden tysiąc  00/100"));
-    EXPECT_EQ(words(1500), QStringLiteral("jeden tysiąc  pięćset 00/100"));
-    EXPECT_EQ(words(1999),
-              QStringLiteral("jeden tysiąc  dziewięćset dziewięćdziesiąt dziewięć 00/100"));
-    EXPECT_EQ(words(2000), QStringLiteral("dwa tysiące  00/100"));
-    EXPECT_EQ(words(5000), QStringLiteral("pięć tysięcy  00/100"));
-    EXPECT_EQ(words(12000), QStringLiteral("dwanaście tysięcy  00/100"));
-    EXPECT_EQ(words(21000), QStringLiteral("dwadzieścia jeden tysięcy  00/100"));
-    EXPECT_EQ(words(22000), QStringLiteral("dwadzieścia dwa tysiące  00/100"));
-    EXPECT_EQ(words(25000), QStringLiteral("dwadzieścia pięć tysięcy  00/100"));
-    EXPECT_EQ(words(212000), QStringLiteral("dwieście dwanaście tysiące  00/100"));
-    EXPECT_EQ(words(999999.99),
-              QStringLiteral("dziewięćset dziewięćdziesiąt dziewięć tysięcy  "
-                             "dziewięćset dziewięćdziesiąt dziewięć 99/100"));
-}
-
-TEST(AmountInWords, WordsOnlyTheFirstDigitOfTheMillions)
-{
-    EXPECT_EQ(words(2345678.90),
-              QStringLiteral(" dwa miliony  trzysta czterdzieści pięć tysięcy  "
-                             "sześćset siedemdziesiąt osiem 90/100"));
-    EXPECT_EQ(words(1001000), QStringLiteral(" jeden milion  tysiąc  00/100"));
-    EXPECT_EQ(words(2000000), QStringLiteral(" dwa miliony  00/100"));
-    EXPECT_EQ(words(5000001), QStringLiteral(" pięć milionów  jeden 00/100"));
-    // The accepted limit: ten million reads as one million.
-    EXPECT_EQ(words(10000000), QStringLiteral(" jeden milion  00/100"));
-}
-
-TEST(AmountInWords, NegativeAmountsAreWordedByTheirMagnitude)
-{
-    EXPECT_EQ(words(-12.5), QStringLiteral("dwanaście 50/100"));
+    const std::pair<double, const char *> cases[] = {
+        {0, "00/100"},
+        {1.00, "jeden 00/100"},
+        {12.50, "dwanaście 50/100"},
+        {10, "dziesięć 00/100"},
+        {11, "jedenaście 00/100"},
+        {19.99, "dziewiętnaście 99/100"},
+        {20.01, "dwadzieścia 01/100"},
+        {115, "sto piętnaście 00/100"},
+        {999, "dziewięćset dziewięćdziesiąt dziewięć 00/100"},
+        // Grosze rounded up do not carry into the zloty.
+        {12.999, "dwanaście 00/100"},
+        {12.996, "dwanaście 00/100"},
+        {12.994, "dwanaście 99/100"},
+        // Thousands take the form of their last digit.
+        {1000, "jeden tysiąc  00/100"},
+        {1500, "jeden tysiąc  pięćset 00/100"},
+        {1999, "jeden tysiąc  dziewięćset dziewięćdziesiąt dziewięć 00/100"},
+        {2000, "dwa tysiące  00/100"},
+        {5000, "pięć tysięcy  00/100"},
+        {12000, "dwanaście tysięcy  00/100"},
+        {21000, "dwadzieścia jeden tysięcy  00/100"},
+        {22000, "dwadzieścia dwa tysiące  00/100"},
+        {25000, "dwadzieścia pięć tysięcy  00/100"},
+        {212000, "dwieście dwanaście tysiące  00/100"},
+        {999999.99, "dziewięćset dziewięćdziesiąt dziewięć tysięcy  "
+                    "dziewięćset dziewięćdziesiąt dziewięć 99/100"},
+        // Only the first digit of the millions is worded; ten million is the
+        // accepted limit and reads as one million.
+        {2345678.90, " dwa miliony  trzysta czterdzieści pięć tysięcy  "
+                     "sześćset siedemdziesiąt osiem 90/100"},
+        {1001000, " jeden milion  tysiąc  00/100"},
+        {2000000, " dwa miliony  00/100"},
+        {5000001, " pięć milionów  jeden 00/100"},
+        {10000000, " jeden milion  00/100"},
+        // A negative amount by its magnitude.
+        {-12.5, "dwanaście 50/100"},
+    };
+    for (const auto &[amount, words] : cases)
+        EXPECT_EQ(AmountInWords::words(amount), QString::fromUtf8(words)) << amount;
 }

@@ -68,49 +68,32 @@ protected:
 
 } // namespace
 
-TEST_F(PrivilegesTest, TheFormIsKnownByItsClassName)
+TEST_F(PrivilegesTest, TheLowByteOfTheKindsColumnDecidesForTheFormOfTheClassName)
 {
     EXPECT_EQ(Privileges::formClass(&zlecenia), QStringLiteral("TfrmZlecPrzychodzace"));
-}
-
-TEST_F(PrivilegesTest, TheLowByteOfTheColumnDecides)
-{
     TDaneFirmy firma;
     EXPECT_TRUE(firma.CheckPrivilege(Privileges::Run, &zlecenia, 5));
     EXPECT_FALSE(firma.CheckPrivilege(Privileges::Add, &zlecenia, 5));    // 256
     EXPECT_TRUE(firma.CheckPrivilege(Privileges::Edit, &zlecenia, 5));    // 255
     EXPECT_FALSE(firma.CheckPrivilege(Privileges::Delete, &zlecenia, 5));
-}
-
-TEST_F(PrivilegesTest, DeleteIsThreeAndEditIsFour)
-{
-    TDaneFirmy firma;
+    // Delete is 3, edit is 4.
     EXPECT_TRUE(firma.CheckPrivilege(3, &zlecenia, 6));
     EXPECT_FALSE(firma.CheckPrivilege(4, &zlecenia, 6));
+    EXPECT_THROW(firma.CheckPrivilege(7, &zlecenia, 5), DbError);
 }
 
-TEST_F(PrivilegesTest, AUserWithoutARowIsDeniedEverything)
+TEST_F(PrivilegesTest, NoRowOrANameDifferingInLetterCaseGrantsNothing)
 {
     TDaneFirmy firma;
-    for (int kind = Privileges::Run; kind <= Privileges::Edit; ++kind)
+    for (int kind = Privileges::Run; kind <= Privileges::Edit; ++kind) {
         EXPECT_FALSE(firma.CheckPrivilege(kind, &zlecenia, 99)) << kind;
-    EXPECT_FALSE(firma.CheckPrivilege(Privileges::Run, &bezUprawnien, 5));
-}
-
-TEST_F(PrivilegesTest, ANameDifferingInLetterCaseGrantsNothingButIsFoundAsTheForm)
-{
-    TDaneFirmy firma;
-    for (int kind = Privileges::Run; kind <= Privileges::Edit; ++kind)
         EXPECT_FALSE(firma.CheckPrivilege(kind, &miasta, 5)) << kind;
+    }
+    EXPECT_FALSE(firma.CheckPrivilege(Privileges::Run, &bezUprawnien, 5));
+    // ... though the form is found by it.
     EXPECT_EQ(firma.GetFormID(&miasta), miastaID);
     EXPECT_EQ(firma.GetFormID(&zlecenia), zleceniaID);
     EXPECT_EQ(firma.GetFormID(&bezUprawnien), 0);
-}
-
-TEST_F(PrivilegesTest, AnUnknownKindFailsAtTheDatabase)
-{
-    TDaneFirmy firma;
-    EXPECT_THROW(firma.CheckPrivilege(7, &zlecenia, 5), DbError);
 }
 
 TEST_F(PrivilegesTest, RequireShowsTheRefusalForTheSessionUser)

@@ -30,71 +30,49 @@ protected:
 
 } // namespace
 
-TEST_F(SettingsFileTest, ASingleUpperCaseIniArgumentNamesTheFile)
+TEST_F(SettingsFileTest, AnIniArgumentThenTheFileBesideTheProgramThenTheSystemOne)
 {
+    // Only a single upper-case .INI argument names the file.
     EXPECT_EQ(SettingsFile::fileName(host({QStringLiteral("/srv/FIRMA2.INI")})),
               QStringLiteral("/srv/FIRMA2.INI"));
-}
-
-TEST_F(SettingsFileTest, OtherArgumentsAreIgnored)
-{
     const QString system = path(QStringLiteral("etc/Haulix.ini"));
     EXPECT_EQ(SettingsFile::fileName(host({QStringLiteral("/srv/firma2.ini")})), system);
     EXPECT_EQ(SettingsFile::fileName(host({QStringLiteral("A.INI"), QStringLiteral("B.INI")})),
               system);
     EXPECT_EQ(SettingsFile::fileName(host({})), system);
-}
+    // A system directory with a separator gets no second one.
+    EXPECT_EQ(SettingsFile::fileName({{}, path(QStringLiteral("bin")), QStringLiteral("/etc/")}),
+              QStringLiteral("/etc/Haulix.ini"));
 
-TEST_F(SettingsFileTest, TheFileBesideTheExecutableComesBeforeTheSystemOne)
-{
     ASSERT_TRUE(QDir(m_dir.path()).mkdir(QStringLiteral("bin")));
     const QString beside = path(QStringLiteral("bin/Haulix.ini"));
     touch(beside);
     EXPECT_EQ(SettingsFile::fileName(host({})), beside);
 }
 
-TEST_F(SettingsFileTest, ASystemDirectoryWithASeparatorGetsNoSecondOne)
-{
-    const HostEnvironment environment{{}, path(QStringLiteral("bin")), QStringLiteral("/etc/")};
-    EXPECT_EQ(SettingsFile::fileName(environment), QStringLiteral("/etc/Haulix.ini"));
-}
-
-TEST_F(SettingsFileTest, AMissingAppPathIsWrittenFromTheExecutableDirectory)
+TEST_F(SettingsFileTest, AMissingOrEmptyAppPathIsWrittenFromTheProgramsDirectoryAStoredOneKept)
 {
     const QString ini = path(QStringLiteral("Haulix.ini"));
+    const auto stored = [&] {
+        return QSettings(ini, QSettings::IniFormat).value(QStringLiteral("AppPath")).toString();
+    };
     EXPECT_EQ(SettingsFile::appPath(ini, QStringLiteral("/opt/haulix")),
               QStringLiteral("/opt/haulix"));
-    QSettings written(ini, QSettings::IniFormat);
-    EXPECT_EQ(written.value(QStringLiteral("AppPath")).toString(), QStringLiteral("/opt/haulix/"));
-
+    EXPECT_EQ(stored(), QStringLiteral("/opt/haulix/"));
     QFile file(ini);
     ASSERT_TRUE(file.open(QIODevice::ReadOnly));
     EXPECT_TRUE(file.readAll().contains("[General]"));
-}
 
-TEST_F(SettingsFileTest, AnEmptyAppPathIsReplacedAndAStoredOneKept)
-{
-    const QString ini = path(QStringLiteral("Haulix.ini"));
-    {
-        QSettings settings(ini, QSettings::IniFormat);
-        settings.setValue(QStringLiteral("AppPath"), QString());
-    }
+    QSettings(ini, QSettings::IniFormat).setValue(QStringLiteral("AppPath"), QString());
     EXPECT_EQ(SettingsFile::appPath(ini, QStringLiteral("/opt/a")), QStringLiteral("/opt/a"));
-    {
-        QSettings settings(ini, QSettings::IniFormat);
-        settings.setValue(QStringLiteral("AppPath"), QStringLiteral("D:\\Haulix\\"));
-    }
+    QSettings(ini, QSettings::IniFormat).setValue(QStringLiteral("AppPath"), "D:\\Haulix\\");
     EXPECT_EQ(SettingsFile::appPath(ini, QStringLiteral("/opt/a")), QStringLiteral("D:\\Haulix"));
-}
 
-TEST_F(SettingsFileTest, ADriveRootIsStoredAsTheDriveAlone)
-{
+    // A drive root is stored as the drive alone.
     EXPECT_EQ(SettingsFile::storedAppPath(QStringLiteral("C:/")), QStringLiteral("C:"));
     EXPECT_EQ(SettingsFile::storedAppPath(QStringLiteral("C:\\")), QStringLiteral("C:"));
     EXPECT_EQ(SettingsFile::storedAppPath(QStringLiteral("C:/Haulix")), QStringLiteral("C:/Haulix/"));
-
-    const QString ini = path(QStringLiteral("Haulix.ini"));
+    QFile::remove(ini);
     EXPECT_EQ(SettingsFile::appPath(ini, QStringLiteral("C:/")), QStringLiteral("C:"));
-    QSettings written(ini, QSettings::IniFormat);
-    EXPECT_EQ(written.value(QStringLiteral("AppPath")).toString(), QStringLiteral("C:"));
+    EXPECT_EQ(stored(), QStringLiteral("C:"));
 }

@@ -12,6 +12,8 @@
 
 #include <gtest/gtest.h>
 
+#include <functional>
+
 namespace {
 
 // The launchers run against stand-in sibling libraries (TestSibling.cpp)
@@ -77,53 +79,32 @@ protected:
 
 } // namespace
 
-TEST_F(SiblingModulesTest, ASelectionPassesTheSessionAndReturnsTheChosenKey)
+TEST_F(SiblingModulesTest, EachSelectionLoadsItsLibraryPassesTheSessionAndUnloadsIt)
 {
+    const TDaneFirmy launcher = firma();
     qputenv("HAULIX_TEST_SIBLING_CHOICE", "42");
     int selected = 3;
-    EXPECT_EQ(firma().SelectDriver(12, selected), 1);
+    EXPECT_EQ(launcher.SelectDriver(12, selected), 1);
     EXPECT_EQ(selected, 42);
-    EXPECT_EQ(log(), (QStringList{
-                         QStringLiteral("load Drivers"),
-                         QStringLiteral("Run_WybierzKierowcy user=7 current=12 ") + pointers()
-                             + QStringLiteral(" calls=1"),
-                         QStringLiteral("unload Drivers"),
-                     }));
     EXPECT_EQ(QGuiApplication::overrideCursor(), nullptr);
-}
-
-TEST_F(SiblingModulesTest, TwoSelectionsLoadAndUnloadTwice)
-{
-    const TDaneFirmy launcher = firma();
-    int selected = 0;
+    // Reloaded, the library counts its calls from one again.
     launcher.SelectDriver(0, selected);
-    launcher.SelectDriver(0, selected);
-    const QString call = QStringLiteral("Run_WybierzKierowcy user=7 current=0 ") + pointers()
-        + QStringLiteral(" calls=1");
-    EXPECT_EQ(log(), (QStringList{QStringLiteral("load Drivers"), call,
+    const QString call = QStringLiteral(" ") + pointers() + QStringLiteral(" calls=1");
+    EXPECT_EQ(log(), (QStringList{QStringLiteral("load Drivers"),
+                                  QStringLiteral("Run_WybierzKierowcy user=7 current=12") + call,
                                   QStringLiteral("unload Drivers"), QStringLiteral("load Drivers"),
-                                  call, QStringLiteral("unload Drivers")}));
-}
+                                  QStringLiteral("Run_WybierzKierowcy user=7 current=0") + call,
+                                  QStringLiteral("unload Drivers")}));
 
-TEST_F(SiblingModulesTest, ACancelledSelectionLeavesTheKey)
-{
-    qputenv("HAULIX_TEST_SIBLING_RESULT", "0");
-    qputenv("HAULIX_TEST_SIBLING_CHOICE", "42");
-    int selected = 3;
-    EXPECT_EQ(firma().SelectContractor(5, selected), 0);
-    EXPECT_EQ(selected, 3);
-}
-
-TEST_F(SiblingModulesTest, EachRegisterCallsItsOwnSelectionEntry)
-{
-    const TDaneFirmy launcher = firma();
-    int selected = 0;
     launcher.SelectPlace(1, selected);
     launcher.SelectCity(2, selected);
     launcher.SelectTrailer(3, selected);
-    launcher.SelectContractor(4, selected);
+    qputenv("HAULIX_TEST_SIBLING_RESULT", "0");
+    selected = 3;
+    EXPECT_EQ(launcher.SelectContractor(4, selected), 0);
+    EXPECT_EQ(selected, 3);
     QStringList calls;
-    for (const QString &line : log()) {
+    for (const QString &line : log().mid(6)) {
         if (line.startsWith(QStringLiteral("Run_")))
             calls << line.section(QLatin1Char(' '), 0, 2);
     }
@@ -144,30 +125,18 @@ TEST_F(SiblingModulesTest, AMissingLibraryIsNamedWithItsFullPathAndChangesNothin
     expectMissing(QStringLiteral("Drivers"));
     EXPECT_EQ(QGuiApplication::overrideCursor(), nullptr);
 
-    scriptedMessages().clear();
-    scriptedMessages().expect(MessageService::Ok);
-    EXPECT_FALSE(launcher.ShowScheduler());
-    expectMissing(QStringLiteral("Scheduler"));
-
-    scriptedMessages().clear();
-    scriptedMessages().expect(MessageService::Ok);
-    EXPECT_FALSE(launcher.EditRoadCard(1));
-    expectMissing(QStringLiteral("RoadCards"));
+    for (const auto &[library, run] :
+         {std::pair<QString, std::function<bool()>>{QStringLiteral("Scheduler"),
+                                                     [&] { return launcher.ShowScheduler(); }},
+          {QStringLiteral("RoadCards"), [&] { return launcher.EditRoadCard(1); }}}) {
+        scriptedMessages().clear();
+        scriptedMessages().expect(MessageService::Ok);
+        EXPECT_FALSE(run());
+        expectMissing(library);
+    }
 }
 
-TEST_F(SiblingModulesTest, TheRoadCardEditorGetsTheCardAndTheConnection)
-{
-    const TDaneFirmy launcher = firma();
-    EXPECT_TRUE(launcher.EditRoadCard(55));
-    qputenv("HAULIX_TEST_SIBLING_RESULT", "0");
-    EXPECT_FALSE(launcher.EditRoadCard(56));
-    const QStringList lines = log();
-    EXPECT_TRUE(lines.contains(QStringLiteral("Run_EdytujKarte card=55 ") + pointers()));
-    EXPECT_TRUE(lines.contains(QStringLiteral("Run_EdytujKarte card=56 ") + pointers()));
-    EXPECT_EQ(lines.count(QStringLiteral("unload RoadCards")), 2);
-}
-
-TEST_F(SiblingModulesTest, TheSchedulerButtonsCallTheirEntriesWithZero)
+TEST_F(SiblingModulesTest, TheSchedulerButtonsAndTheRoadCardEditorPassTheirArguments)
 {
     const TDaneFirmy launcher = firma();
     EXPECT_TRUE(launcher.ShowScheduler());
@@ -179,6 +148,14 @@ TEST_F(SiblingModulesTest, TheSchedulerButtonsCallTheirEntriesWithZero)
                                   QStringLiteral("load Scheduler"),
                                   QStringLiteral("Run_PokazTerminy") + arguments,
                                   QStringLiteral("unload Scheduler")}));
+
+    EXPECT_TRUE(launcher.EditRoadCard(55));
+    qputenv("HAULIX_TEST_SIBLING_RESULT", "0");
+    EXPECT_FALSE(launcher.EditRoadCard(56));
+    const QStringList lines = log();
+    EXPECT_TRUE(lines.contains(QStringLiteral("Run_EdytujKarte card=55 ") + pointers()));
+    EXPECT_TRUE(lines.contains(QStringLiteral("Run_EdytujKarte card=56 ") + pointers()));
+    EXPECT_EQ(lines.count(QStringLiteral("unload RoadCards")), 2);
 }
 
 TEST_F(SiblingModulesTest, EveryEntryOfTheRowIsResolvedAndAMissingOneLeftEmpty)

@@ -31,40 +31,30 @@ TEST_F(TDaneFirmyTest, LoadsTheCompanyDataOnCreation)
         "'Trans-Żuraw Sp. z o.o.', '80-180', 'Gdańsk', 'ul. Przemysłowa 4', 'skr. 12', "
         "'584-000-11-22', '190000000', 'tel. 58 300 00 00', 'biuro@example.pl', 'Gdańsk', "
         "'pomorskie', 'PL5840001122', 'PL3')"));
-    const TDaneFirmy firma(context);
-    EXPECT_EQ(firma.NAZWA, QStringLiteral("Trans-Żuraw Sp. z o.o."));
-    EXPECT_EQ(firma.KOD, QStringLiteral("80-180"));
-    EXPECT_EQ(firma.MIEJSCOWOSC, QStringLiteral("Gdańsk"));
-    EXPECT_EQ(firma.ADRES, QStringLiteral("ul. Przemysłowa 4"));
-    EXPECT_EQ(firma.POBOX, QStringLiteral("skr. 12"));
-    EXPECT_EQ(firma.NIP, QStringLiteral("584-000-11-22"));
-    EXPECT_EQ(firma.REGON, QStringLiteral("190000000"));
-    EXPECT_EQ(firma.KONTAKT1, QStringLiteral("tel. 58 300 00 00"));
-    EXPECT_EQ(firma.KONTAKT2, QString());
-    EXPECT_EQ(firma.KONTAKT6, QStringLiteral("biuro@example.pl"));
-    EXPECT_EQ(firma.MIEJSCE_WYSTAWIANIA, QStringLiteral("Gdańsk"));
-    EXPECT_EQ(firma.WOJEWODZTWO, QStringLiteral("pomorskie"));
-    EXPECT_EQ(firma.EURONIP_1, QStringLiteral("PL5840001122"));
-    EXPECT_EQ(firma.EURONIP_3, QStringLiteral("PL3"));
+    const TDaneFirmy f(context);
+    EXPECT_EQ((QStringList{f.NAZWA, f.KOD, f.MIEJSCOWOSC, f.ADRES, f.POBOX, f.NIP, f.REGON,
+                           f.KONTAKT1, f.KONTAKT2, f.KONTAKT6, f.MIEJSCE_WYSTAWIANIA,
+                           f.WOJEWODZTWO, f.EURONIP_1, f.EURONIP_3}),
+              (QStringList{"Trans-Żuraw Sp. z o.o.", "80-180", "Gdańsk", "ul. Przemysłowa 4",
+                           "skr. 12", "584-000-11-22", "190000000", "tel. 58 300 00 00", "",
+                           "biuro@example.pl", "Gdańsk", "pomorskie", "PL5840001122", "PL3"}));
 }
 
-TEST_F(TDaneFirmyTest, WithoutCompanyDataOrDatabaseTheTextsStayEmpty)
+TEST_F(TDaneFirmyTest, WithoutCompanyDataOrDatabaseTheTextsStayEmptyAndNamesKeepTheirLimits)
 {
     EXPECT_EQ(TDaneFirmy(context).NAZWA, QString());
     const SessionContext noDatabase;
     const TDaneFirmy firma(noDatabase);
     EXPECT_EQ(firma.NAZWA, QString());
     EXPECT_EQ(firma.GetConfigInt(QStringLiteral("IDWalutyKrajowej")), 0);
-}
 
-TEST_F(TDaneFirmyTest, WorkstationNamesKeepTheirLimits)
-{
+    // The workstation's names keep the limits of their columns.
     EXPECT_LE(TDaneFirmy::GetComputerName().size(), 16);
     EXPECT_FALSE(TDaneFirmy::GetLoginName().isEmpty());
     EXPECT_LE(TDaneFirmy::GetLoginName().size(), 51);
 }
 
-TEST_F(TDaneFirmyTest, WriteHistoryStoresOneCommittedRow)
+TEST_F(TDaneFirmyTest, WriteHistoryStoresOneCommittedRowOfTheValuesAsText)
 {
     const TDaneFirmy firma(context);
     const double before = DateTime::now().days();
@@ -75,27 +65,24 @@ TEST_F(TDaneFirmyTest, WriteHistoryStoresOneCommittedRow)
     Statement st(db.connection());
     st.add(QStringLiteral("SELECT * FROM HISTORY"));
     st.exec();
-    EXPECT_EQ(st.integer(QStringLiteral("USERID")), 7);
-    EXPECT_EQ(st.integer(QStringLiteral("OPERACJA")), 3);
-    EXPECT_EQ(st.integer(QStringLiteral("GRUPA")), 17);
-    EXPECT_EQ(st.string(QStringLiteral("HISTORY_PARAMS")), QStringLiteral("12,Gdańsk,2.5"));
-    EXPECT_EQ(st.string(QStringLiteral("COMPNAME")), TDaneFirmy::GetComputerName());
-    EXPECT_EQ(st.string(QStringLiteral("COMPUSER")), TDaneFirmy::GetLoginName());
+    QStringList row;
+    for (const char *column : {"USERID", "OPERACJA", "GRUPA", "HISTORY_PARAMS", "COMPNAME",
+                               "COMPUSER"})
+        row << st.string(QLatin1String(column));
+    EXPECT_EQ(row, (QStringList{"7", "3", "17", "12,Gdańsk,2.5", TDaneFirmy::GetComputerName(),
+                                TDaneFirmy::GetLoginName()}));
     // Stored to the millisecond, read back within a minute of the call.
     EXPECT_LT(std::fabs(st.dateTime(QStringLiteral("CZAS")).days() - before), 1.0 / 1440);
-}
 
-TEST_F(TDaneFirmyTest, WriteHistoryTakesASingleValueAsItsText)
-{
-    const TDaneFirmy firma(context);
+    // A single value is its text; a list is joined by commas.
     EXPECT_TRUE(firma.WriteHistory(QVariant(42), 1, 0));
     EXPECT_TRUE(firma.WriteHistory(QStringList{QStringLiteral("a"), QStringLiteral("b")}, 2, 0));
     EXPECT_EQ(db.scalar(QStringLiteral("SELECT LIST(HISTORY_PARAMS, '|') FROM "
                                        "(SELECT HISTORY_PARAMS FROM HISTORY ORDER BY ID_HISTORY)")),
-              QStringLiteral("42|a,b"));
+              QStringLiteral("12,Gdańsk,2.5|42|a,b"));
 }
 
-TEST_F(TDaneFirmyTest, WriteHistoryInsideARunningTransactionLeavesItToTheCaller)
+TEST_F(TDaneFirmyTest, WriteHistoryInsideARunningTransactionLeavesItToTheCallerAFailureLeavesNothing)
 {
     const TDaneFirmy firma(context);
     transaction.StartTransaction();
@@ -103,11 +90,8 @@ TEST_F(TDaneFirmyTest, WriteHistoryInsideARunningTransactionLeavesItToTheCaller)
     EXPECT_TRUE(transaction.InTransaction());
     transaction.Rollback();
     EXPECT_EQ(db.count(QStringLiteral("HISTORY")), 0);
-}
 
-TEST_F(TDaneFirmyTest, AFailedHistoryInsertIsReportedAndLeavesNothing)
-{
-    const TDaneFirmy firma(context);
+    // A failed insert is reported and leaves nothing.
     scriptedMessages().expect(MessageService::Ok);
     EXPECT_FALSE(firma.WriteHistory(QString(300, QLatin1Char('x')), 3, 1));
     ASSERT_EQ(scriptedMessages().shown().size(), 1u);
@@ -166,6 +150,17 @@ protected:
         return DateTime::fromDate(QDate(year, month, dayOfMonth));
     }
 
+    // Converts with the table, date, quantity, rate and table number kept
+    // in the fixture, where the conversion writes them back.
+    double convert(int currency, double amount, int table = 0, DateTime on = day(2024, 3, 5),
+                   int numberLength = 20)
+    {
+        tableID = table;
+        date = on;
+        return TDaneFirmy(context).ConvertCurrency(tableID, currency, date, quantity, rate,
+                                                   numberLength, tableNumber, amount);
+    }
+
     static constexpr int Zloty = 1;
     static constexpr int Euro = 2;
     static constexpr int Forint = 3;
@@ -174,7 +169,7 @@ protected:
     int march4 = 0;
     int march10 = 0;
     int tableID = 0;
-    DateTime date = day(2024, 3, 5);
+    DateTime date;
     int quantity = -7;
     double rate = -7.0;
     QString tableNumber = QStringLiteral("przed");
@@ -185,79 +180,46 @@ protected:
 TEST_F(ConvertCurrencyTest, TheDomesticCurrencyNeedsNoTable)
 {
     db.exec(QStringLiteral("DELETE FROM NUMERY_TABEL_KURSOW"));
-    const TDaneFirmy firma(context);
-    tableID = 0;
-    const double result =
-        firma.ConvertCurrency(tableID, Zloty, date, quantity, rate, 20, tableNumber, 100.0);
+    EXPECT_DOUBLE_EQ(convert(Zloty, 100.0), 100.0);
     EXPECT_EQ(quantity, 1);
     EXPECT_DOUBLE_EQ(rate, 1.0);
-    EXPECT_DOUBLE_EQ(result, 100.0);
     EXPECT_EQ(tableID, 0);
     EXPECT_EQ(date, day(2024, 3, 5));
     EXPECT_EQ(tableNumber, QStringLiteral("przed"));
 }
 
-TEST_F(ConvertCurrencyTest, TakesTheLatestTableOnOrBeforeTheDate)
+TEST_F(ConvertCurrencyTest, TakesTheLatestTableOnOrBeforeTheDateAndRoundsHalfCentsToEven)
 {
-    const TDaneFirmy firma(context);
-    const double result =
-        firma.ConvertCurrency(tableID, Euro, date, quantity, rate, 20, tableNumber, 100.0);
+    EXPECT_DOUBLE_EQ(convert(Euro, 100.0), 432.15);
     EXPECT_EQ(tableID, march4);
     EXPECT_EQ(date, day(2024, 3, 4));
     EXPECT_EQ(tableNumber, QStringLiteral("A/2"));
     EXPECT_DOUBLE_EQ(rate, 4.3215);
     EXPECT_EQ(quantity, 1);
-    EXPECT_DOUBLE_EQ(result, 432.15);
 
-    tableID = 0;
-    date = day(2024, 3, 5);
-    EXPECT_DOUBLE_EQ(firma.ConvertCurrency(tableID, Forint, date, quantity, rate, 20, tableNumber,
-                                           1000.0),
-                     11.0);
+    EXPECT_DOUBLE_EQ(convert(Forint, 1000.0), 11.0);
     EXPECT_EQ(quantity, 100);
-}
-
-TEST_F(ConvertCurrencyTest, RoundsHalfCentsToTheEvenCent)
-{
-    const TDaneFirmy firma(context);
-    EXPECT_DOUBLE_EQ(firma.ConvertCurrency(tableID, Quarter, date, quantity, rate, 20, tableNumber,
-                                           0.5),
-                     0.12);
-    tableID = 0;
-    EXPECT_DOUBLE_EQ(firma.ConvertCurrency(tableID, Quarter, date, quantity, rate, 20, tableNumber,
-                                           1.5),
-                     0.38);
+    EXPECT_DOUBLE_EQ(convert(Quarter, 0.5), 0.12);
+    EXPECT_DOUBLE_EQ(convert(Quarter, 1.5), 0.38);
 }
 
 TEST_F(ConvertCurrencyTest, AGivenTableIsUsedWithItsNumberCut)
 {
-    const TDaneFirmy firma(context);
-    tableID = march10;
-    const double result =
-        firma.ConvertCurrency(tableID, Euro, date, quantity, rate, 2, tableNumber, 10.0);
+    EXPECT_DOUBLE_EQ(convert(Euro, 10.0, march10, day(2024, 3, 5), 2), 44.0);
     EXPECT_EQ(tableID, march10);
     EXPECT_EQ(tableNumber, QStringLiteral("A/"));
     EXPECT_EQ(date, day(2024, 3, 5));
-    EXPECT_DOUBLE_EQ(result, 44.0);
 }
 
 TEST_F(ConvertCurrencyTest, NoTableOrNoRateGivesQuantityZero)
 {
-    const TDaneFirmy firma(context);
-    date = day(2024, 2, 1);
-    EXPECT_DOUBLE_EQ(firma.ConvertCurrency(tableID, Euro, date, quantity, rate, 20, tableNumber,
-                                           100.0),
-                     0.0);
+    EXPECT_DOUBLE_EQ(convert(Euro, 100.0, 0, day(2024, 2, 1)), 0.0);
     EXPECT_EQ(tableID, -1);
     EXPECT_EQ(quantity, 0);
     EXPECT_DOUBLE_EQ(rate, 0.0);
     EXPECT_EQ(date, day(2024, 2, 1));
 
-    tableID = 0;
-    date = day(2024, 3, 5);
-    EXPECT_DOUBLE_EQ(firma.ConvertCurrency(tableID, Dollar, date, quantity, rate, 20, tableNumber,
-                                           100.0),
-                     0.0);
+    EXPECT_DOUBLE_EQ(convert(Dollar, 100.0), 0.0);
     EXPECT_EQ(tableID, march4);
     EXPECT_EQ(quantity, 0);
 }

@@ -13,11 +13,7 @@
 #include <cstdlib>
 #include <type_traits>
 
-#if defined(_WIN32)
-#define SIBLING_EXPORT extern "C" __declspec(dllexport)
-#else
 #define SIBLING_EXPORT extern "C" __attribute__((visibility("default")))
-#endif
 
 namespace {
 

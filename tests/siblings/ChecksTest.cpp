@@ -35,11 +35,10 @@ TEST(Pesel, ChecksTheDigitAndTheDateOfBirthWithItsCentury)
     EXPECT_EQ(Pesel::birthDate(QStringLiteral("02270803624")), QDate(2002, 7, 8));
     EXPECT_EQ(Pesel::birthDate(QStringLiteral("92123101234")), QDate(1992, 12, 31));
 
-    EXPECT_FALSE(Pesel::isValid(QStringLiteral("44051401358")));   // check digit
-    EXPECT_FALSE(Pesel::isValid(QStringLiteral("4405140135")));    // ten digits
-    EXPECT_FALSE(Pesel::isValid(QStringLiteral("4405140135a")));
-    // 31 February carries a right check digit and is still no date.
-    EXPECT_FALSE(Pesel::isValid(QStringLiteral("92023101231")));
+    // A wrong check digit, ten digits, a letter; 31 February carries a
+    // right check digit and is still no date.
+    for (const char *wrong : {"44051401358", "4405140135", "4405140135a", "92023101231"})
+        EXPECT_FALSE(Pesel::isValid(QString::fromUtf8(wrong))) << wrong;
     EXPECT_FALSE(Pesel::birthDate(QStringLiteral("44051401358")).isValid());
     EXPECT_TRUE(Pesel::problem(QStringLiteral("44051401358")).startsWith(
         "Nieprawidłowy numer PESEL: 44051401358."));
@@ -66,14 +65,11 @@ TEST(PostalCode, FollowsTheCountrysMask)
 
 TEST(BankAccount, ChecksTheDigitsOfAPolishNumberAndAnIban)
 {
-    EXPECT_TRUE(BankAccount::isValid(QStringLiteral("61 1090 1014 0000 0712 1981 2874")));
-    EXPECT_TRUE(BankAccount::isValid(QStringLiteral("61109010140000071219812874")));
-    EXPECT_TRUE(BankAccount::isValid(QStringLiteral("PL61 1090 1014 0000 0712 1981 2874")));
-    EXPECT_TRUE(BankAccount::isValid(QStringLiteral("DE89 3704 0044 0532 0130 00")));
-
-    EXPECT_FALSE(BankAccount::isValid(QStringLiteral("61 1090 1014 0000 0712 1981 2875")));
-    EXPECT_FALSE(BankAccount::isValid(QStringLiteral("61 1090 1014 0000 0712 1981 287")));
-    EXPECT_FALSE(BankAccount::isValid(QStringLiteral("DE89 3704 0044 0532 0130 01")));
-    EXPECT_FALSE(BankAccount::isValid(QStringLiteral("konto w banku")));
+    for (const char *valid : {"61 1090 1014 0000 0712 1981 2874", "61109010140000071219812874",
+                              "PL61 1090 1014 0000 0712 1981 2874", "DE89 3704 0044 0532 0130 00"})
+        EXPECT_TRUE(BankAccount::isValid(QString::fromUtf8(valid))) << valid;
+    for (const char *wrong : {"61 1090 1014 0000 0712 1981 2875", "61 1090 1014 0000 0712 1981 287",
+                              "DE89 3704 0044 0532 0130 01", "konto w banku"})
+        EXPECT_FALSE(BankAccount::isValid(QString::fromUtf8(wrong))) << wrong;
     EXPECT_FALSE(BankAccount::problem(QStringLiteral("12 3")).isEmpty());
 }

@@ -61,7 +61,7 @@ protected:
 
 } // namespace
 
-TEST_F(ContractorsRegister, ListsTheRoleOfEachContractor)
+TEST_F(ContractorsRegister, ListsTheRoleOfEachContractorAndKeepsTheOwnCompanyAndOneInvoiced)
 {
     auto form = TfrmRODefault::create<TfrmKontrahenci>(nullptr, TfrmRegister::Browse, 0);
     const TListView &list = *form->frameListView1->lvMain;
@@ -72,6 +72,21 @@ TEST_F(ContractorsRegister, ListsTheRoleOfEachContractor)
     EXPECT_TRUE(ContractorRoles::isClient(ContractorRoles::Both));
     EXPECT_FALSE(ContractorRoles::isClient(ContractorRoles::Carrier));
     EXPECT_FALSE(ContractorRoles::isCarrier(ContractorRoles::Client));
+
+    // The own company and a contractor of an invoice stay.
+    db.exec(QStringLiteral("INSERT INTO FAKTURY (NR_KOLEJNY, ID_KONTRAHENTA) VALUES (1, %1)")
+                .arg(client));
+    for (const int key : {own, client}) {
+        form->frameListView1->lvMain->selectByKey(key);
+        scriptedMessages().expect(MessageService::Yes);
+        scriptedMessages().expect();
+        form->acUsun->trigger();
+    }
+    ASSERT_EQ(scriptedMessages().shown().size(), 4u);
+    EXPECT_TRUE(scriptedMessages().shown()[1].text.startsWith(
+        "Nie można usunąć tego kontrahenta: to firma własna (ustawienie IDWłaściciela)"));
+    EXPECT_TRUE(scriptedMessages().shown()[3].text.contains("faktury (1)"));
+    EXPECT_EQ(db.count(QStringLiteral("KONTRAHENCI")), 3);
 }
 
 TEST_F(ContractorsRegister, ChecksNipPostalCodeAccountAndShortNameOfAContractor)
@@ -139,7 +154,7 @@ TEST_F(ContractorsRegister, ABadNipTypedIntoTheEditorSavesNothing)
     EXPECT_EQ(saved.DATA_WPISU.date(), QDate::currentDate());
 }
 
-TEST_F(ContractorsRegister, CorrectingThroughTheEntryKeepsTheKeyAndCancelKeepsTheRecord)
+TEST_F(ContractorsRegister, CorrectingThroughTheEntryKeepsTheKeyCancelOrNoRightKeepsTheRecord)
 {
     scriptedModalRunner().expect<TfrmAddEditKontrahenci>([](TfrmAddEditKontrahenci &editor) {
         auto *role = static_cast<QComboBox *>(editor.field(QStringLiteral("cbRola")));
@@ -166,31 +181,10 @@ TEST_F(ContractorsRegister, CorrectingThroughTheEntryKeepsTheKeyAndCancelKeepsTh
               0);
     EXPECT_EQ(saved, -1);
     EXPECT_EQ(TKontrahenciObj(db.connection()).SelectById(carrier).TELEFON, "+48 42 630 11 22");
-}
 
-TEST_F(ContractorsRegister, TheOwnCompanyAndAContractorOfAnInvoiceStay)
-{
-    db.exec(QStringLiteral("INSERT INTO FAKTURY (NR_KOLEJNY, ID_KONTRAHENTA) VALUES (1, %1)")
-                .arg(client));
-    auto form = TfrmRODefault::create<TfrmKontrahenci>(nullptr, TfrmRegister::Browse, 0);
-    for (const int key : {own, client}) {
-        form->frameListView1->lvMain->selectByKey(key);
-        scriptedMessages().expect(MessageService::Yes);
-        scriptedMessages().expect();
-        form->acUsun->trigger();
-    }
-    ASSERT_EQ(scriptedMessages().shown().size(), 4u);
-    EXPECT_TRUE(scriptedMessages().shown()[1].text.startsWith(
-        "Nie można usunąć tego kontrahenta: to firma własna (ustawienie IDWłaściciela)"));
-    EXPECT_TRUE(scriptedMessages().shown()[3].text.contains("faktury (1)"));
-    EXPECT_EQ(db.count(QStringLiteral("KONTRAHENCI")), 3);
-}
-
-TEST_F(ContractorsRegister, EditingAContractorWithoutTheRightOpensNothing)
-{
+    // Without the right to edit nothing opens.
     grant({QStringLiteral("TfrmAddEditKontrahenci")}, 3, false, false, false);
     scriptedMessages().expect();
-    std::int32_t saved = -1;
     EXPECT_EQ(SiblingRun::edit<TfrmAddEditKontrahenci>(Privileges::Edit, 3, carrier,
                                                        &db.connection(), &transaction, &saved),
               0);

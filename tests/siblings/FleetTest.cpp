@@ -41,7 +41,7 @@ protected:
 
 } // namespace
 
-TEST_F(Fleet, VehiclesShowTheirDefaultTrailerAndDriverByName)
+TEST_F(Fleet, VehiclesShowTheirDefaultTrailerAndDriverByNameAndThatTrailerStays)
 {
     auto form = TfrmRODefault::create<TfrmPojazdy>(nullptr, TfrmRegister::Browse, 0);
     const TListView &list = *form->frameListView1->lvMain;
@@ -51,6 +51,15 @@ TEST_F(Fleet, VehiclesShowTheirDefaultTrailerAndDriverByName)
     auto trailers = TfrmRODefault::create<TfrmNaczepy>(nullptr, TfrmRegister::Browse, 0);
     EXPECT_EQ(trailers->frameListView1->lvMain->items().texts(0).mid(0, 4),
               (QStringList{"EL 7N21", "Chłodnia", "33", "7200"}));
+
+    // A trailer of a vehicle is not deleted.
+    trailers->frameListView1->lvMain->selectByKey(trailer);
+    scriptedMessages().expect(MessageService::Yes);
+    scriptedMessages().expect();
+    trailers->acUsun->trigger();
+    EXPECT_TRUE(scriptedMessages().shown().at(1).text.contains(
+        "pojazdy (jako naczepa domyślna) (1)"));
+    EXPECT_EQ(db.count(QStringLiteral("NACZEPY")), 1);
 }
 
 TEST_F(Fleet, ARegistrationBelongsToOneVehicleWhateverTheLetterCase)
@@ -91,16 +100,4 @@ TEST_F(Fleet, AVehicleTypedInIsSavedWithItsCrewInCapitals)
     EXPECT_EQ(saved.LADOWNOSC, 12000);
     EXPECT_EQ(saved.DEF_KIEROWCA, driver);
     EXPECT_EQ(form->frameListView1->lvMain->itemCount(), 2);
-}
-
-TEST_F(Fleet, ATrailerOfAVehicleOrACardIsNotDeleted)
-{
-    auto form = TfrmRODefault::create<TfrmNaczepy>(nullptr, TfrmRegister::Browse, 0);
-    form->frameListView1->lvMain->selectByKey(trailer);
-    scriptedMessages().expect(MessageService::Yes);
-    scriptedMessages().expect();
-    form->acUsun->trigger();
-    EXPECT_TRUE(scriptedMessages().shown().at(1).text.contains(
-        "pojazdy (jako naczepa domyślna) (1)"));
-    EXPECT_EQ(db.count(QStringLiteral("NACZEPY")), 1);
 }

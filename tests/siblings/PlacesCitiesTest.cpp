@@ -46,7 +46,7 @@ protected:
 
 } // namespace
 
-TEST_F(PlacesAndCities, CitiesShowTheirCountryAndPolishCodesHaveTheirForm)
+TEST_F(PlacesAndCities, CitiesShowTheirCountryPolishCodesHaveTheirFormAndAUsedCityStays)
 {
     auto form = TfrmRODefault::create<TfrmMiejscowosci>(nullptr, TfrmRegister::Browse, 0);
     const TListView &list = *form->frameListView1->lvMain;
@@ -55,8 +55,7 @@ TEST_F(PlacesAndCities, CitiesShowTheirCountryAndPolishCodesHaveTheirForm)
 
     scriptedModalRunner().expect<TfrmAddEditMiejscowosci>([](TfrmAddEditMiejscowosci &editor) {
         // Poland has no mask of its own in this database: NN-NNN holds.
-        EXPECT_EQ(static_cast<QComboBox *>(editor.field(QStringLiteral("cbKraj")))->currentText(),
-                  "Polska");
+        EXPECT_EQ(shown(editor.field(QStringLiteral("cbKraj"))), "Polska");
         type(editor.field(QStringLiteral("edNazwa")), QStringLiteral("Kutno"));
         type(editor.field(QStringLiteral("edKod")), QStringLiteral("99300"));
         scriptedMessages().expect();
@@ -71,18 +70,16 @@ TEST_F(PlacesAndCities, CitiesShowTheirCountryAndPolishCodesHaveTheirForm)
               "gdzie N to cyfra.");
     EXPECT_EQ(list.caption(list.selectedIndex()), "Kutno");
     EXPECT_EQ(db.count(QStringLiteral("MIASTA")), 3);
-}
 
-TEST_F(PlacesAndCities, ACityOfARouteOrADistanceStays)
-{
+    // A city of a route or a distance stays.
     db.exec(QStringLiteral("INSERT INTO ODLEGLOSCI (IDMIASTAOD, IDMIASTAVIA, IDMIASTADO, "
                            "ODLEGLOSC) VALUES (%1, 0, %2, 560)")
                 .arg(lodz)
                 .arg(berlin));
     db.exec(QStringLiteral("INSERT INTO ZLECENIA_PRZYCH (NUMER, IDMIASTO_VIA) VALUES (5, %1)")
                 .arg(berlin));
-    auto form = TfrmRODefault::create<TfrmMiejscowosci>(nullptr, TfrmRegister::Browse, 0);
     form->frameListView1->lvMain->selectByKey(berlin);
+    scriptedMessages().clear();
     scriptedMessages().expect(MessageService::Yes);
     scriptedMessages().expect();
     form->acUsun->trigger();
@@ -90,7 +87,7 @@ TEST_F(PlacesAndCities, ACityOfARouteOrADistanceStays)
               "Nie można usunąć wybranej pozycji, ponieważ korzystają z niej: zlecenia "
               "przychodzące (1), odległości między miastami (1).\n"
               "Najpierw zmień lub usuń te zapisy. Nic nie zostało usunięte.");
-    EXPECT_EQ(db.count(QStringLiteral("MIASTA")), 2);
+    EXPECT_EQ(db.count(QStringLiteral("MIASTA")), 3);
 }
 
 TEST_F(PlacesAndCities, APlaceIsSavedWithTheCodeItsCountryExpects)

@@ -74,9 +74,19 @@ TEST_F(Scheduler, TodaysListHoldsTheUsersDueRemindersNotDoneWholeDayFirst)
     EXPECT_TRUE(Reminders::setDone(db.connection(), todayLater, false));
     form->frameListView1->Refresh();
     EXPECT_EQ(keys(*form).size(), 3);
+
+    // The entry shows the list of the user it is given.
+    QList<int> listed;
+    scriptedModalRunner().expect<TfrmPokazTerminy>([&](TfrmPokazTerminy &shown) {
+        listed = keys(shown);
+        click(shown.btnOk);
+        return shown.result();
+    });
+    EXPECT_EQ(SiblingRun::window<TfrmPokazTerminy>(2, &db.connection(), &transaction), 1);
+    EXPECT_EQ(listed, QList<int>{someoneElses});
 }
 
-TEST_F(Scheduler, TheCalendarListsTheMonthOfItsPage)
+TEST_F(Scheduler, TheCalendarListsTheMonthOfItsPageAndAddsOnTheChosenDay)
 {
     auto form = TfrmRODefault::create<TfrmTerminarz>(nullptr, TfrmRegister::Browse, 0);
     const QDate today = QDate::currentDate();
@@ -93,12 +103,9 @@ TEST_F(Scheduler, TheCalendarListsTheMonthOfItsPage)
     form->calTerminarz->showNextMonth();
     EXPECT_EQ(keys(*form), QList<int>{nextMonth});
     EXPECT_NE(form->calTerminarz->dateTextFormat(today).fontWeight(), QFont::Bold);
-}
 
-TEST_F(Scheduler, ANewReminderIsTheUsersOnTheChosenDay)
-{
-    auto form = TfrmRODefault::create<TfrmTerminarz>(nullptr, TfrmRegister::Browse, 0);
-    const QDate day = QDate::currentDate().addDays(2);
+    // A new reminder is the user's, on the day chosen.
+    const QDate day = today.addDays(2);
     form->calTerminarz->setSelectedDate(day);
     scriptedModalRunner().expect<TfrmAddEditTerminy>([](TfrmAddEditTerminy &editor) {
         type(editor.field(QStringLiteral("edTresc")), QStringLiteral("Zamówić paliwo"));
@@ -117,16 +124,4 @@ TEST_F(Scheduler, ANewReminderIsTheUsersOnTheChosenDay)
     EXPECT_EQ(saved.DATA.date(), day);
     EXPECT_EQ(saved.ID_USER, 1);
     EXPECT_EQ(saved.WYKONANE, 0);
-}
-
-TEST_F(Scheduler, TheEntriesRunTheirWindowsForTheGivenUser)
-{
-    QList<int> listed;
-    scriptedModalRunner().expect<TfrmPokazTerminy>([&](TfrmPokazTerminy &form) {
-        listed = keys(form);
-        click(form.btnOk);
-        return form.result();
-    });
-    EXPECT_EQ(SiblingRun::window<TfrmPokazTerminy>(2, &db.connection(), &transaction), 1);
-    EXPECT_EQ(listed, QList<int>{someoneElses});
 }

@@ -2,6 +2,9 @@
 
 #include "SessionContext.h"
 
+#include <QComboBox>
+#include <QLineEdit>
+
 SiblingTest::SiblingTest()
 {
     setSession(1, &db.connection(), &transaction);
@@ -38,4 +41,13 @@ void SiblingTest::grant(const QStringList &formClasses, int userId, bool add, bo
 int SiblingTest::lastKey(const QString &table, const QString &key)
 {
     return db.scalar(QStringLiteral("SELECT MAX(%1) FROM %2").arg(key, table)).toInt();
+}
+
+QString SiblingTest::shown(QWidget *field)
+{
+    if (const auto *box = qobject_cast<QComboBox *>(field))
+        return box->currentText();
+    const auto *edit = qobject_cast<QLineEdit *>(field);
+    EXPECT_NE(edit, nullptr);
+    return edit ? edit->text() : QString();
 }

@@ -24,6 +24,8 @@ protected:
 
     static void type(QWidget *field, const QString &text) { Typing::into(field, text); }
     static void click(QWidget *button) { Typing::click(button); }
+    // What a line edit or a combo box shows.
+    static QString shown(QWidget *field);
 
     TestDatabase db;
     Transaction transaction{db.connection()};

@@ -107,56 +107,49 @@ TEST_F(SiblingLibraries, EveryLibraryExportsEveryEntryOfItsRow)
     }
 }
 
-TEST_F(SiblingLibraries, EachSelectionWindowHandsBackTheRecordTheUserFound)
+TEST_F(SiblingLibraries, EachSelectionWindowHandsBackTheRecordTheUserFoundOrNoneOnCancel)
 {
     const TDaneFirmy launcher = firma();
     struct Case
     {
         const char *window;
         QString search;
-        int expected;
+        const char *keyOfFound;
         int (TDaneFirmy::*select)(int, int &) const;
     };
     const Case cases[] = {
         {"TfrmKierowcy", QStringLiteral("Lewan"),
-         key(QStringLiteral("SELECT ID_KIEROWCA FROM KIEROWCY WHERE NAZWISKO = 'Lewandowski'")),
-         &TDaneFirmy::SelectDriver},
+         "ID_KIEROWCA FROM KIEROWCY WHERE NAZWISKO = 'Lewandowski'", &TDaneFirmy::SelectDriver},
         {"TfrmMiejsca", QStringLiteral("Błonie"),
-         key(QStringLiteral("SELECT ID_MIEJSCA FROM MIEJSCA WHERE NAZWA LIKE '%Błonie'")),
-         &TDaneFirmy::SelectPlace},
+         "ID_MIEJSCA FROM MIEJSCA WHERE NAZWA LIKE '%Błonie'", &TDaneFirmy::SelectPlace},
         {"TfrmMiejscowosci", QStringLiteral("Kielce"),
-         key(QStringLiteral("SELECT ID_MIASTA FROM MIASTA WHERE NAZWA = 'Kielce'")),
-         &TDaneFirmy::SelectCity},
+         "ID_MIASTA FROM MIASTA WHERE NAZWA = 'Kielce'", &TDaneFirmy::SelectCity},
         {"TfrmPojazdy", QStringLiteral("EL 4523K"),
-         key(QStringLiteral("SELECT ID_POJAZDU FROM POJAZDY WHERE NR_REJ = 'EL 4523K'")),
-         &TDaneFirmy::SelectVehicle},
+         "ID_POJAZDU FROM POJAZDY WHERE NR_REJ = 'EL 4523K'", &TDaneFirmy::SelectVehicle},
         {"TfrmNaczepy", QStringLiteral("EL 7N22"),
-         key(QStringLiteral("SELECT ID_NACZEPY FROM NACZEPY WHERE NR_REJ = 'EL 7N22'")),
-         &TDaneFirmy::SelectTrailer},
+         "ID_NACZEPY FROM NACZEPY WHERE NR_REJ = 'EL 7N22'", &TDaneFirmy::SelectTrailer},
         {"TfrmKontrahenci", QStringLiteral("BUDMAT"),
-         key(QStringLiteral("SELECT ID_KONTRAHENTA FROM KONTRAHENCI WHERE SKROT = 'BUDMAT'")),
-         &TDaneFirmy::SelectContractor},
+         "ID_KONTRAHENTA FROM KONTRAHENCI WHERE SKROT = 'BUDMAT'", &TDaneFirmy::SelectContractor},
     };
     for (const Case &c : cases) {
-        ASSERT_NE(c.expected, 0) << c.window;
+        const int expected = key(QStringLiteral("SELECT ") + QString::fromUtf8(c.keyOfFound));
+        ASSERT_NE(expected, 0) << c.window;
         WindowScript script;
         script.then(QLatin1String(c.window), choose(c.search));
         int selected = 0;
         EXPECT_EQ((launcher.*c.select)(0, selected), 1) << c.window;
-        EXPECT_EQ(selected, c.expected) << c.window;
+        EXPECT_EQ(selected, expected) << c.window;
         EXPECT_TRUE(script.finished()) << c.window;
     }
-}
 
-TEST_F(SiblingLibraries, CancellingASelectionLeavesTheCallersKey)
-{
+    // Cancelled, the caller's key stays.
     WindowScript script;
     script.then(QStringLiteral("TfrmKierowcy"), [](QWidget &window) {
         WindowScript::type(window, QStringLiteral("edSearch"), QStringLiteral("Lewan"));
         WindowScript::click(window, QStringLiteral("btnCancel"));
     });
     int selected = 5;
-    EXPECT_EQ(firma().SelectDriver(5, selected), 0);
+    EXPECT_EQ(launcher.SelectDriver(5, selected), 0);
     EXPECT_EQ(selected, 5);
     EXPECT_TRUE(script.finished());
 }
