@@ -12,8 +12,10 @@
 #include <QBoxLayout>
 #include <QComboBox>
 #include <QHeaderView>
+#include <QKeyEvent>
 #include <QLabel>
 #include <QPainter>
+#include <QScopeGuard>
 #include <QTableWidget>
 
 #include <algorithm>
@@ -83,7 +85,22 @@ TfrmCenniki::TfrmCenniki(QWidget *owner)
     layout->addLayout(grid, 1);
 
     connect(sgCennik, &QTableWidget::cellDoubleClicked, this, &TfrmCenniki::sgCennikDblClick);
+    sgCennik->installEventFilter(this);
     resize(640, 460);
+}
+
+bool TfrmCenniki::eventFilter(QObject *watched, QEvent *event)
+{
+    // A dispatcher at the keyboard edits the cell under the cursor with
+    // Enter, which would otherwise press the window's default button.
+    if (watched == sgCennik && event->type() == QEvent::KeyPress) {
+        const int key = static_cast<QKeyEvent *>(event)->key();
+        if (key == Qt::Key_Return || key == Qt::Key_Enter) {
+            sgCennikDblClick();
+            return true;
+        }
+    }
+    return TPriceListWindow::eventFilter(watched, event);
 }
 
 void TfrmCenniki::FormCreate()
@@ -149,7 +166,15 @@ int TfrmCenniki::rangeKey(int column, int row) const
 
 void TfrmCenniki::FillCells()
 {
+    // Emptying the cells resets the grid's model, and with it the cell the
+    // dispatcher stands on; it is put back once the cells are filled.
+    const int currentRow = sgCennik->currentRow();
+    const int currentColumn = sgCennik->currentColumn();
     sgCennik->clearContents();
+    const auto restoreCurrent = qScopeGuard([&] {
+        if (currentRow >= 0 && currentColumn >= 0)
+            sgCennik->setCurrentCell(currentRow, currentColumn);
+    });
     Connection *database = session().Database;
     if (!database)
         return;

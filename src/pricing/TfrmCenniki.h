@@ -6,7 +6,7 @@ class QLabel;
 class QTableWidget;
 
 // The grid of a price list's amounts: kilometre ranges down, kilogram
-// ranges across. Double-clicking a cell edits its amount.
+// ranges across. Double-clicking a cell, or Enter on it, edits its amount.
 class TfrmCenniki : public TPriceListWindow
 {
     Q_OBJECT
@@ -31,6 +31,7 @@ public:
 
 protected:
     void FormCreate() override;
+    bool eventFilter(QObject *watched, QEvent *event) override;
 
 private:
     void buildGrid();

@@ -5,6 +5,7 @@
 #include "TLimitedFloatEdit.h"
 #include "TListView.h"
 #include "TestData.h"
+#include "Typing.h"
 #include "TframeListView.h"
 #include "TfrmAddEditCenniki.h"
 #include "TfrmCennikMenu.h"
@@ -12,6 +13,7 @@
 #include "TfrmCenniki.h"
 #include "TfrmCennikiKontrahenci.h"
 
+#include <QApplication>
 #include <QComboBox>
 #include <QLabel>
 #include <QTableWidget>
@@ -190,6 +192,49 @@ TEST_F(PriceGrid, AFilledCellIsUpdatedOrDeletedByZeroAndAnEmptyOneFilledOnlyByAn
                         .arg(light)),
               1);
     EXPECT_EQ(grid->Cells(1, 2), "450,00");
+}
+
+TEST_F(PriceGrid, AtTheKeyboardEnterEditsTheCellUnderTheCursorWhichStaysThere)
+{
+    seedGrid();
+    auto grid = openGrid();
+    Typing::activate(grid.get());
+    grid->sgCennik->setFocus();
+    const auto typeAmount = [this](const QString &amount, double *shown = nullptr) {
+        scriptedModalRunner().expect<TfrmAddEditCenniki>([=](TfrmAddEditCenniki &d) {
+            Typing::activate(&d);
+            if (shown)
+                *shown = d.amount();
+            Typing::into(d.edStawka, amount);
+            Typing::accelerator(Qt::Key_Z);
+            EXPECT_TRUE(Typing::closes(&d));
+            return d.result();
+        });
+        Typing::press(Qt::Key_Return);
+        EXPECT_TRUE(scriptedModalRunner().allRun());
+    };
+    // Down the first column to the far range, across to the heavy one.
+    Typing::press(Qt::Key_Home, Qt::ControlModifier);
+    Typing::press(Qt::Key_Down);
+    Typing::press(Qt::Key_Right);
+    double shown = 0.0;
+    typeAmount(QStringLiteral("1300"), &shown);
+    EXPECT_DOUBLE_EQ(shown, 1234.5);
+    EXPECT_TRUE(grid->isVisible());
+    EXPECT_EQ(grid->Cells(2, 2), "1" + Nbsp + "300,00");
+
+    // The refilled grid keeps the cursor: one to the left is the light range.
+    Typing::activate(grid.get());
+    EXPECT_EQ(QApplication::focusWidget(), grid->sgCennik);
+    Typing::press(Qt::Key_Left);
+    typeAmount(QStringLiteral("450"));
+    EXPECT_EQ(cells(QStringLiteral("GRUPA = 0 AND KILOMETRY = %1 AND KILOGRAMY = %2 AND "
+                                   "KWOTA = 450")
+                        .arg(far)
+                        .arg(light)),
+              1);
+    EXPECT_EQ(cells(QStringLiteral("GRUPA = 0 AND KWOTA = 1300 AND KILOGRAMY = %1").arg(heavy)),
+              1);
 }
 
 TEST_F(PriceGrid, TheClientViewerListsClientsOfThePriceList)
