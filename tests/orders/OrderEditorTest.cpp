@@ -12,6 +12,7 @@
 #include "TNumberEdit.h"
 #include "TZlecenia_przychObj.h"
 #include "TfrmAddEditZlecenia_Przych.h"
+#include "Typing.h"
 
 #include <QCheckBox>
 #include <QLabel>
@@ -46,11 +47,15 @@ protected:
     {
         auto form = TfrmRODefault::create<Editor>(nullptr, key, mode);
         scriptedModalRunner().expect<Editor>([&](Editor &editor) {
+            Typing::activate(&editor);
             user(editor);
             return editor.result();
         });
         return form->showModal();
     }
+
+    // Alt+Z, "Zapisz i zamknij".
+    static void save() { Typing::accelerator(Qt::Key_Z); }
 
     TZlecenia_przychObj stored(int key)
     {
@@ -111,20 +116,20 @@ TEST_F(OrderEditor, SavingANewOrderWritesTheFieldsTheSessionUserAndTheFirstNumbe
         choose(e.cbPrzewoznik, carrier);
         choose(e.cbMiastoOd, lodz);
         choose(e.cbMiastoDo, zakopane);
-        e.deAwizo->setValue(DateTime::fromDate(QDate(2024, 5, 6)));
-        e.meAwizo->setText(QStringLiteral("8:30"));
-        e.deRozladunek->setValue(DateTime::fromDate(QDate(2024, 5, 7)));
-        e.meRozladunek->setText(QStringLiteral("14:05"));
-        e.seOdleglosc->setValue(420);
-        e.seKMLadownych->setValue(420);
-        e.seKMPustych->setValue(12.5);
-        e.seKwota->setValue(1850.0);
-        e.seKosztKwota->setValue(1400.0);
-        e.edPojazd->setText(QStringLiteral("EL 12345"));
+        Typing::into(e.deAwizo, QStringLiteral("2024-05-06"));
+        Typing::into(e.meAwizo, QStringLiteral("8:30"));
+        Typing::into(e.deRozladunek, QStringLiteral("07.05.2024"));
+        Typing::into(e.meRozladunek, QStringLiteral("14:05"));
+        Typing::into(e.seOdleglosc, QStringLiteral("420"));
+        Typing::into(e.seKMLadownych, QStringLiteral("420"));
+        Typing::into(e.seKMPustych, QStringLiteral("12,5"));
+        Typing::into(e.seKwota, QStringLiteral("1850"));
+        Typing::into(e.seKosztKwota, QStringLiteral("1400"));
+        Typing::into(e.edPojazd, QStringLiteral("EL 12345"));
         // The description keeps at most 255 characters.
-        e.memOpisDod->setPlainText(description);
+        Typing::into(e.memOpisDod, description);
         EXPECT_EQ(e.memOpisDod->toPlainText().size(), 255);
-        e.btnOk->click();
+        save();
     });
     EXPECT_EQ(result, TfrmRODefault::mrOk);
     ASSERT_EQ(db.count(QStringLiteral("ZLECENIA_PRZYCH")), 1);
@@ -159,8 +164,8 @@ TEST_F(OrderEditor, ANewOrderFollowsTheMostRecentlyInsertedNumberOfItsLoadingYea
     earlier.NUMER = 41;
     insertOrder(earlier);
     run(0, Editor::Add, [&](Editor &e) {
-        e.deAwizo->setValue(DateTime::fromDate(QDate(2024, 8, 1)));
-        e.btnOk->click();
+        Typing::into(e.deAwizo, QStringLiteral("2024-08-01"));
+        save();
         EXPECT_EQ(e.seNumerKolejny->value(), 42);
     });
     EXPECT_EQ(lastOrder().NUMER, 42);
@@ -169,22 +174,22 @@ TEST_F(OrderEditor, ANewOrderFollowsTheMostRecentlyInsertedNumberOfItsLoadingYea
 TEST_F(OrderEditor, ByTariffEachRateProductIsRoundedAndTheAmountGoesToZero)
 {
     run(0, Editor::Add, [&](Editor &e) {
-        e.seKwota->setValue(999.0);
-        e.rbStawkaTaryfowa->click();
+        Typing::into(e.seKwota, QStringLiteral("999"));
+        Typing::click(e.rbStawkaTaryfowa);
         EXPECT_DOUBLE_EQ(e.seKwota->value(), 0.0);
         EXPECT_FALSE(e.seKwota->isEnabled());
         EXPECT_TRUE(e.ceTaryfa->isEnabled());
-        e.seKMLadownych->setValue(100);
-        e.edStawkaKMLadowny->setValue(1.235);
+        Typing::into(e.seKMLadownych, QStringLiteral("100"));
+        Typing::into(e.edStawkaKMLadowny, QStringLiteral("1,235"));
         EXPECT_EQ(e.lblStawkaRazem->text(), "123,50");
-        e.seIloscPalet->setValue(3);
-        e.edStawkaIloscPalet->setValue(10.005);
+        Typing::into(e.seIloscPalet, QStringLiteral("3"));
+        Typing::into(e.edStawkaIloscPalet, QStringLiteral("10,005"));
         EXPECT_EQ(e.lblStawkaRazem->text(), "153,52");
         // 0.005 alone rounds up to a grosz, the plain sum would not.
-        e.seIloscGodzin->setValue(1.0);
-        e.edStawkaIloscGodzin->setValue(0.005);
+        Typing::into(e.seIloscGodzin, QStringLiteral("1"));
+        Typing::into(e.edStawkaIloscGodzin, QStringLiteral("0,005"));
         EXPECT_EQ(e.lblStawkaRazem->text(), "153,53");
-        e.btnOk->click();
+        save();
     });
     const TZlecenia_przychObj o = lastOrder();
     EXPECT_DOUBLE_EQ(o.STAWKA_RAZEM, 153.53);
@@ -199,9 +204,13 @@ TEST_F(OrderEditor, TheOwnCarrierBoxTicksExactlyForTheCompanysOwnContractor)
         EXPECT_TRUE(e.cbPrzewoznikObcy->isChecked());
         choose(e.cbPrzewoznik, carrier);
         EXPECT_FALSE(e.cbPrzewoznikObcy->isChecked());
-        e.cbPrzewoznikObcy->click();
+        // Space on the box ticks it, and again unticks it.
+        e.cbPrzewoznikObcy->setFocus();
+        Typing::press(Qt::Key_Space);
+        EXPECT_TRUE(e.cbPrzewoznikObcy->isChecked());
         EXPECT_EQ(e.cbPrzewoznik->currentData().toInt(), own);
-        e.cbPrzewoznikObcy->click();   // unticking leaves the carrier
+        Typing::press(Qt::Key_Space);   // unticking leaves the carrier
+        EXPECT_FALSE(e.cbPrzewoznikObcy->isChecked());
         EXPECT_EQ(e.cbPrzewoznik->currentData().toInt(), own);
     });
 }
@@ -238,8 +247,8 @@ TEST_F(OrderEditor, AnEditRoundTripKeepsWhatTheEditorDoesNotShow)
         EXPECT_TRUE(e.rgKosztTaryfa->isChecked());
         EXPECT_EQ(e.ceKosztTaryfa->text(), "Chłodnia 24t");
         EXPECT_EQ(e.costTariffKey(), tariff);
-        e.edPojazd->setText(QStringLiteral("WZ 9876A"));
-        e.btnOk->click();
+        Typing::into(e.edPojazd, QStringLiteral("WZ 9876A"));
+        save();
     });
     EXPECT_EQ(result, TfrmRODefault::mrOk);
     EXPECT_EQ(db.count(QStringLiteral("ZLECENIA_PRZYCH")), 1);
@@ -263,14 +272,14 @@ TEST_F(OrderEditor, ATimeThatDoesNotConvertStopsTheSaveAndCancelThenWritesNothin
     order.POJAZD = QStringLiteral("EL 1");
     const int key = insertOrder(order);
     const int result = run(key, Editor::Edit, [&](Editor &e) {
-        e.edPojazd->setText(QStringLiteral("EL 2"));
-        e.seKwota->setValue(250.0);
-        e.seNumerKolejny->setValue(0);
-        e.meRozladunek->setText(QStringLiteral("25:70"));
+        Typing::into(e.edPojazd, QStringLiteral("EL 2"));
+        Typing::into(e.seKwota, QStringLiteral("250"));
+        Typing::into(e.seNumerKolejny, QStringLiteral("0"));
+        Typing::into(e.meRozladunek, QStringLiteral("25:70"));
         scriptedMessages().expect(MessageService::Ok);
-        e.btnOk->click();
+        save();
         EXPECT_TRUE(e.isVisible());
-        e.btnCancel->click();
+        Typing::accelerator(Qt::Key_A);   // "Anuluj"
     });
     EXPECT_EQ(result, TfrmRODefault::mrCancel);
     ASSERT_EQ(scriptedMessages().shown().size(), 1u);
@@ -281,9 +290,9 @@ TEST_F(OrderEditor, ATimeThatDoesNotConvertStopsTheSaveAndCancelThenWritesNothin
     EXPECT_EQ(stored(key).NUMER, 5);
 
     run(0, Editor::Add, [&](Editor &e) {
-        e.meAwizo->setText(QStringLiteral("9:99"));
+        Typing::into(e.meAwizo, QStringLiteral("9:99"));
         scriptedMessages().expect(MessageService::Ok);
-        e.btnOk->click();
+        save();
     });
     EXPECT_EQ(db.count(QStringLiteral("ZLECENIA_PRZYCH")), 1);
 }
@@ -336,7 +345,7 @@ TEST_F(OrderEditor, AContractorOrCityGoneFromItsListStaysWithTheOrder)
     run(key, Editor::Edit, [&](Editor &e) {
         EXPECT_EQ(e.cbKlient->currentIndex(), -1);
         EXPECT_EQ(e.edNrListu->value(), 654321);
-        e.btnOk->click();
+        save();
     });
     const TZlecenia_przychObj o = stored(key);
     EXPECT_EQ(o.IDKONTRAHENTA, 999);
@@ -359,13 +368,13 @@ TEST_F(OrderEditor, AgreedAfterTariffClearsTheTariffAndKeepsTheRates)
         EXPECT_TRUE(e.rbStawkaTaryfowa->isChecked());
         EXPECT_EQ(e.ceTaryfa->text(), "Własna krajowa");
         EXPECT_EQ(e.lblStawkaRazem->text(), "30,00");
-        e.rbStawkaUmowna->click();
+        Typing::click(e.rbStawkaUmowna);
         EXPECT_EQ(e.tariffKey(), 0);
         EXPECT_TRUE(e.ceTaryfa->text().isEmpty());
         EXPECT_TRUE(e.seKwota->isEnabled());
         EXPECT_EQ(e.lblStawkaRazem->text(), "0,00");
-        e.seKwota->setValue(75.0);
-        e.btnOk->click();
+        Typing::into(e.seKwota, QStringLiteral("75"));
+        save();
     });
     const TZlecenia_przychObj o = stored(key);
     EXPECT_EQ(o.IDTARYFY, 0);

@@ -10,6 +10,7 @@
 #include "TfrmAddEditZlecenia_Przych.h"
 #include "TfrmMiasta.h"
 #include "TfrmStawkiTaryfowe.h"
+#include "Typing.h"
 
 #include <QAction>
 #include <QLabel>
@@ -37,7 +38,17 @@ protected:
 
     std::unique_ptr<Editor> newOrder()
     {
-        return TfrmRODefault::create<Editor>(nullptr, 0, Editor::Add);
+        auto editor = TfrmRODefault::create<Editor>(nullptr, 0, Editor::Add);
+        Typing::activate(editor.get());
+        return editor;
+    }
+
+    // Alt+Z, "Zapisz i zamknij", in the editor made active again after
+    // any register that was open above it.
+    static void save(Editor &e)
+    {
+        Typing::activate(&e);
+        Typing::accelerator(Qt::Key_Z);
     }
 
     void route(Editor &e, int from, int via, int to)
@@ -69,14 +80,14 @@ protected:
 TEST_F(OrderPricing, ARouteSavedWithItsDistanceIsFoundBackwardsButNotThroughAnotherCity)
 {
     auto first = newOrder();
-    first->seOdleglosc->setValue(55);
-    first->seKMLadownych->setValue(55);
+    Typing::into(first->seOdleglosc, QStringLiteral("55"));
+    Typing::into(first->seKMLadownych, QStringLiteral("55"));
     route(*first, a, b, c);
     // An unknown route: both distance fields go to 0.
     EXPECT_EQ(first->seOdleglosc->value(), 0);
     EXPECT_EQ(first->seKMLadownych->value(), 0);
-    first->seOdleglosc->setValue(310);
-    first->btnOk->click();
+    Typing::into(first->seOdleglosc, QStringLiteral("310"));
+    save(*first);
     EXPECT_EQ(first->result(), TfrmRODefault::mrOk);
     EXPECT_EQ(db.count(QStringLiteral("ODLEGLOSCI")), 1);
 
@@ -90,10 +101,10 @@ TEST_F(OrderPricing, ARouteSavedWithItsDistanceIsFoundBackwardsButNotThroughAnot
 
     // A known route is not stored twice; a distance of 0 is never stored.
     route(*back, c, b, a);
-    back->btnOk->click();
+    save(*back);
     auto unknown = newOrder();
     route(*unknown, a, d, c);
-    unknown->btnOk->click();
+    save(*unknown);
     EXPECT_EQ(db.count(QStringLiteral("ODLEGLOSCI")), 1);
     EXPECT_EQ(db.count(QStringLiteral("ZLECENIA_PRZYCH")), 3);
 }
@@ -103,10 +114,10 @@ TEST_F(OrderPricing, TheRevenueTariffComesFromOwnTariffsAndBringsItsFourRates)
     const int own = addTariff(db.connection(), {.name = QStringLiteral("Krajowa 2024"), .own = 1,
                                                 .perTonne = 40.0, .perLoadedKm = 1.235});
     auto e = newOrder();
-    e->rbStawkaTaryfowa->click();
-    e->edStawkaIloscGodzin->setValue(99.0);
-    e->seKMLadownych->setValue(100);
-    e->seKMPustych->setValue(2.0);
+    Typing::click(e->rbStawkaTaryfowa);
+    Typing::into(e->edStawkaIloscGodzin, QStringLiteral("99"));
+    Typing::into(e->seKMLadownych, QStringLiteral("100"));
+    Typing::into(e->seKMPustych, QStringLiteral("2"));
     // Cancelling the register changes nothing.
     scriptedModalRunner().expect<TfrmStawkiTaryfowe>([](TfrmStawkiTaryfowe &f) {
         f.btnCancel->click();
@@ -134,7 +145,7 @@ TEST_F(OrderPricing, TheRevenueTariffComesFromOwnTariffsAndBringsItsFourRates)
     EXPECT_EQ(e->lblStawkaRazem->text(), "203,50");
     pickInRegister(own, 1);
     e->acTaryfa->trigger();
-    e->btnOk->click();
+    save(*e);
     const auto saved = lastOrder();
     EXPECT_EQ(saved.IDTARYFY, own);
     EXPECT_DOUBLE_EQ(saved.STAWKA_RAZEM, 203.5);
@@ -145,17 +156,17 @@ TEST_F(OrderPricing, TheCostTariffKeepsOnlyKeyAndNameAndPricesTheCarrierCost)
     const int carriers = addTariff(db.connection(), {.name = QStringLiteral("Spedpol standard"),
                                                      .perLoadedKm = 2.0, .perPallet = 10.0});
     auto e = newOrder();
-    e->seKMLadownych->setValue(100);
-    e->seIloscPalet->setValue(3);
-    e->seKwota->setValue(500.0);
-    e->rgKosztTaryfa->click();
+    Typing::into(e->seKMLadownych, QStringLiteral("100"));
+    Typing::into(e->seIloscPalet, QStringLiteral("3"));
+    Typing::into(e->seKwota, QStringLiteral("500"));
+    Typing::click(e->rgKosztTaryfa);
     pickInRegister(carriers, 0);
     e->acKosztTaryfa->trigger();
     EXPECT_EQ(e->costTariffKey(), carriers);
     EXPECT_EQ(e->ceKosztTaryfa->text(), "Spedpol standard");
     EXPECT_DOUBLE_EQ(e->edStawkaKMLadowny->value(), 0.0);
     EXPECT_EQ(e->lblStawkaRazem->text(), "500,00");
-    e->btnOk->click();
+    save(*e);
     const auto saved = lastOrder();
     EXPECT_EQ(saved.IDTARYFYKOSZT, carriers);
     EXPECT_DOUBLE_EQ(saved.KOSZTRAZEM, 230.0);
@@ -179,16 +190,16 @@ TEST_F(OrderPricing, APriceListEntryFillsTheAgreedAmountFromTheLookUp)
     EXPECT_EQ(entries[1]->text(), "Kluczowi");
     EXPECT_EQ(entries[1]->data().toInt(), key);
 
-    e->rbStawkaTaryfowa->click();
-    e->seOdleglosc->setValue(100);
-    e->seKMPustych->setValue(12.345);
+    Typing::click(e->rbStawkaTaryfowa);
+    Typing::into(e->seOdleglosc, QStringLiteral("100"));
+    Typing::into(e->seKMPustych, QStringLiteral("12,345"));
     entries[1]->trigger();
     EXPECT_TRUE(e->rbStawkaUmowna->isChecked());
     EXPECT_DOUBLE_EQ(e->seKwota->value(), 700.0);
     EXPECT_EQ(e->lblStawkaRazem->text(), "700,00");
     entries[0]->trigger();
     EXPECT_DOUBLE_EQ(e->seKwota->value(), 850.0);
-    e->seOdleglosc->setValue(101);
+    Typing::into(e->seOdleglosc, QStringLiteral("101"));
     entries[0]->trigger();
     EXPECT_DOUBLE_EQ(e->seKwota->value(), 0.0);
     EXPECT_TRUE(scriptedMessages().shown().empty());
