@@ -117,8 +117,9 @@ TEST_F(Goods, CorrectingLoadsTheRowAndUpdatesOnlyTheEditedColumns)
         EXPECT_EQ(e.edDodatkowyOpis->text(), "opis Jabłka");
         EXPECT_EQ(e.cbJM->currentData().toInt(), pallet);
         EXPECT_DOUBLE_EQ(e.edIloscRzecz->value(), 2.5);
-        e.edIloscRzecz->setValue(3.0);
-        e.btnOk->click();
+        Typing::activate(&e);
+        Typing::into(e.edIloscRzecz, QStringLiteral("3"));
+        Typing::accelerator(Qt::Key_Z);
         return e.result();
     });
     form->acPopraw->trigger();
@@ -136,8 +137,9 @@ TEST_F(Goods, AUnitThatIsGoneShowsTheFirstUnitAndCancelWritesNothing)
     auto editor = TfrmRODefault::create<GoodsEditor>(nullptr, goods, GoodsEditor::Edit);
     scriptedModalRunner().expect<GoodsEditor>([&](GoodsEditor &e) {
         EXPECT_EQ(e.cbJM->currentIndex(), 0);
-        e.edADR->setText(QStringLiteral("zmiana"));
-        e.btnCancel->click();
+        Typing::activate(&e);
+        Typing::into(e.edADR, QStringLiteral("zmiana"));
+        Typing::accelerator(Qt::Key_A);   // "Anuluj"
         return e.result();
     });
     EXPECT_EQ(editor->showModal(), TfrmRODefault::mrCancel);

@@ -5,6 +5,7 @@
 #include "TBitBtn.h"
 #include "TZlecenia_przychObj.h"
 #include "TfrmAdresy.h"
+#include "Typing.h"
 
 #include <QLabel>
 #include <QLineEdit>
@@ -65,8 +66,9 @@ TEST_F(Places, PowrotLeavesWithoutSavingOkWritesTheRowsBackIntoTheirSlots)
     place.Update();
     auto form = TfrmRODefault::create<TfrmAdresy>(nullptr, place);
     scriptedModalRunner().expect<TfrmAdresy>([](TfrmAdresy &f) {
-        f.edNazwa[0]->setText(QStringLiteral("Nie zapisane"));
-        f.btnCancel->click();
+        Typing::activate(&f);
+        Typing::into(f.edNazwa[0], QStringLiteral("Nie zapisane"));
+        Typing::accelerator(Qt::Key_P);   // "Powrót"
         return f.result();
     });
     EXPECT_EQ(form->showModal(), TfrmRODefault::mrCancel);
@@ -74,12 +76,13 @@ TEST_F(Places, PowrotLeavesWithoutSavingOkWritesTheRowsBackIntoTheirSlots)
 
     form = TfrmRODefault::create<TfrmAdresy>(nullptr, place);
     scriptedModalRunner().expect<TfrmAdresy>([](TfrmAdresy &f) {
+        Typing::activate(&f);
         EXPECT_EQ(f.edNazwa[1]->text(), "Hurtownia Żak");
         EXPECT_EQ(f.edKod[1]->text(), "00-950");
-        f.edMiejscowosc[1]->setText(QStringLiteral("Warszawa-Wola"));
-        f.edNazwa[17]->setText(QStringLiteral("Odbiorca ostatni"));
-        f.edUlica[17]->setText(QStringLiteral("ul. Krańcowa 18"));
-        f.btnOk->click();
+        Typing::into(f.edMiejscowosc[1], QStringLiteral("Warszawa-Wola"));
+        Typing::into(f.edNazwa[17], QStringLiteral("Odbiorca ostatni"));
+        Typing::into(f.edUlica[17], QStringLiteral("ul. Krańcowa 18"));
+        Typing::accelerator(Qt::Key_Z);
         return f.result();
     });
     EXPECT_EQ(form->showModal(), TfrmRODefault::mrOk);
@@ -105,12 +108,12 @@ TEST_F(Places, LeavingTheFirstNameFillsTheRowFromTheClientsKnownAddress)
     auto form = TfrmRODefault::create<TfrmAdresy>(nullptr, newPlace(1));
     EXPECT_EQ(form->clientKey(), client);
     scriptedModalRunner().expect<TfrmAdresy>([](TfrmAdresy &f) {
-        f.edNazwa[0]->setText(QStringLiteral("Nieznany"));
-        Q_EMIT f.edNazwa[0]->editingFinished();
+        Typing::activate(&f);
+        // Tab leaves the name.
+        Typing::into(f.edNazwa[0], QStringLiteral("Nieznany\t"));
         EXPECT_TRUE(f.edMiejscowosc[0]->text().isEmpty());
         // Quotes typed by the user are data, never part of the statement.
-        f.edNazwa[0]->setText(QStringLiteral("Magazyn \"Północ\""));
-        Q_EMIT f.edNazwa[0]->editingFinished();
+        Typing::into(f.edNazwa[0], QStringLiteral("Magazyn \"Północ\"\t"));
         EXPECT_EQ(f.edNazwa[0]->text(), "Agromax magazyn");
         EXPECT_EQ(f.edUlica[0]->text(), "Magazyn \"Północ\"");
         EXPECT_EQ(f.edKod[0]->text(), "91-001");
