@@ -4,10 +4,10 @@
 #include "TBitBtn.h"
 #include "TestData.h"
 #include "TfrmAdvancedEdit.h"
+#include "Typing.h"
 
 #include <QComboBox>
 #include <QLabel>
-#include <QTest>
 
 #include <gtest/gtest.h>
 
@@ -76,8 +76,11 @@ TEST_F(AdvancedEdit, EscLeavesTheOrderAlone)
 {
     auto form = TfrmRODefault::create<TfrmAdvancedEdit>(nullptr, orderKey);
     scriptedModalRunner().expect<TfrmAdvancedEdit>([](TfrmAdvancedEdit &edit) {
-        edit.cbWypisal->setCurrentIndex(0);
-        QTest::keyClick(&edit, Qt::Key_Escape);
+        Typing::activate(&edit);
+        edit.cbWypisal->setFocus();
+        Typing::keys(QStringLiteral("Piotr"));
+        EXPECT_EQ(edit.cbWypisal->currentText(), "Piotr Adamczyk");
+        Typing::press(Qt::Key_Escape);
         return edit.result();
     });
     EXPECT_EQ(form->showModal(), TfrmRODefault::mrCancel);

@@ -10,6 +10,7 @@
 #include "TfrmAddEditZlecenia_Przych.h"
 #include "TfrmAdvancedEdit.h"
 #include "TfrmMiasta.h"
+#include "Typing.h"
 
 #include <QAction>
 #include <QComboBox>
@@ -297,8 +298,9 @@ TEST_F(RegisterActions, CtrlAOpensTheAdvancedEditAndReselectsTheOrder)
     select(*form, key);
     scriptedModalRunner().expect<TfrmAdvancedEdit>([&](TfrmAdvancedEdit &edit) {
         EXPECT_EQ(edit.orderKey(), key);
-        edit.cbWypisal->setCurrentIndex(edit.cbWypisal->findData(2));
-        edit.btnOk->click();
+        Typing::activate(&edit);
+        choose(edit.cbWypisal, 2);
+        Typing::accelerator(Qt::Key_Z);
         return edit.result();
     });
     QTest::keyClick(form->frameListView1->lvMain, Qt::Key_A, Qt::ControlModifier);

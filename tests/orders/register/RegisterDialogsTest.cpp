@@ -12,6 +12,7 @@
 #include "TfrmAdresy.h"
 #include "TfrmDataWzorca.h"
 #include "TfrmTowaryNaZleceniu.h"
+#include "Typing.h"
 
 #include <QAction>
 #include <QComboBox>
@@ -51,8 +52,9 @@ protected:
     static void promptAnswers(const QDate &day)
     {
         scriptedModalRunner().expect<TfrmDataWzorca>([day](TfrmDataWzorca &prompt) {
-            prompt.deData->setDate(day);
-            prompt.btnOk->click();
+            Typing::activate(&prompt);
+            Typing::into(prompt.deData, day.toString(Qt::ISODate));
+            Typing::accelerator(Qt::Key_Z);
             return prompt.result();
         });
     }
@@ -67,8 +69,9 @@ TEST_F(RegisterDialogs, AddOpensAnEmptyEditorAndSelectsTheSavedOrderACancelledAd
     const int orders = orderCount();
     const int addedMeanwhile = addOrder();
     scriptedModalRunner().expect<Editor>([](Editor &editor) {
-        editor.edPojazd->setText(QStringLiteral("WX 7070"));
-        editor.btnCancel->click();
+        Typing::activate(&editor);
+        Typing::into(editor.edPojazd, QStringLiteral("WX 7070"));
+        Typing::accelerator(Qt::Key_A);   // "Anuluj"
         return editor.result();
     });
     form->acDodaj->trigger();
@@ -82,10 +85,11 @@ TEST_F(RegisterDialogs, AddOpensAnEmptyEditorAndSelectsTheSavedOrderACancelledAd
         EXPECT_EQ(editor.mode(), Editor::Add);
         EXPECT_EQ(editor.orderKey(), 0);
         EXPECT_EQ(editor.parentWidget(), form.get());
-        editor.cbKlient->setCurrentIndex(editor.cbKlient->findData(2));
-        editor.deAwizo->setValue(DateTime::today());
-        editor.edPojazd->setText(QStringLiteral("WX 7070"));
-        editor.btnOk->click();
+        Typing::activate(&editor);
+        choose(editor.cbKlient, 2);
+        Typing::into(editor.deAwizo, QDate::currentDate().toString(Qt::ISODate));
+        Typing::into(editor.edPojazd, QStringLiteral("WX 7070"));
+        Typing::accelerator(Qt::Key_Z);
         // Another workstation adds an order right after.
         Connection elsewhere;
         elsewhere.open(db.path());
@@ -121,8 +125,9 @@ TEST_F(RegisterDialogs, EditOpensTheSelectedOrderAndShowsItAgainAfterOkAsADouble
         EXPECT_EQ(editor.mode(), Editor::Edit);
         EXPECT_EQ(editor.orderKey(), key);
         EXPECT_EQ(editor.edPojazd->text(), "EL 1");
-        editor.edPojazd->setText(QStringLiteral("EL 2"));
-        editor.btnOk->click();
+        Typing::activate(&editor);
+        Typing::into(editor.edPojazd, QStringLiteral("EL 2"));
+        Typing::accelerator(Qt::Key_Z);
         return editor.result();
     });
 
@@ -263,8 +268,9 @@ TEST_F(RegisterDialogs, ALoadingPlaceIsMadeWhenMissingAndAnUnloadingPlaceOpensTh
         EXPECT_EQ(places.place().ID_ZLECENIA, key);
         EXPECT_EQ(places.place().ID_ZRP, 1);
         EXPECT_NE(places.place().ID_MIEJSCA_ZLEC, 0);
-        places.edUlica[0]->setText(QStringLiteral("Portowa 5"));
-        places.btnOk->click();
+        Typing::activate(&places);
+        Typing::into(places.edUlica[0], QStringLiteral("Portowa 5"));
+        Typing::accelerator(Qt::Key_Z);
         return places.result();
     });
     form->BitBtn13->click();

@@ -6,6 +6,9 @@
 #include "TFaktury_pozycjeObj.h"
 #include "TMiejsca_zlecObj.h"
 #include "TframeListView.h"
+#include "Typing.h"
+
+#include <QApplication>
 
 #include <QTest>
 
@@ -77,6 +80,16 @@ QString RegisterFixture::cell(const TfrmZlecPrzychodzace &form, int orderKey, in
 bool RegisterFixture::listed(const TfrmZlecPrzychodzace &form, int orderKey)
 {
     return form.frameListView1->lvMain->findByKey(orderKey) >= 0;
+}
+
+void RegisterFixture::choose(QComboBox *combo, int key)
+{
+    const int index = combo->findData(key);
+    ASSERT_GE(index, 0) << "no item with key " << key;
+    combo->setFocus();
+    ASSERT_EQ(QApplication::focusWidget(), combo);
+    Typing::keys(combo->itemText(index).section(u' ', 0, 0));
+    ASSERT_EQ(combo->currentIndex(), index) << combo->itemText(index).toStdString();
 }
 
 void RegisterFixture::select(TfrmZlecPrzychodzace &form, int orderKey)

@@ -6,6 +6,8 @@
 
 #include <gtest/gtest.h>
 
+#include <QComboBox>
+
 #include <functional>
 #include <memory>
 #include <vector>
@@ -38,6 +40,10 @@ protected:
     static QString cell(const TfrmZlecPrzychodzace &form, int orderKey, int column);
     static bool listed(const TfrmZlecPrzychodzace &form, int orderKey);
     static void select(TfrmZlecPrzychodzace &form, int orderKey);
+    // Chooses the item carrying the key as a user does: types the start of
+    // its name (up to a blank, which would open the list) into the list.
+    // The list's window must be the active one.
+    static void choose(QComboBox *combo, int key);
     // Keyboard shortcuts reach only a shown, active window: shows the
     // form, waits until it is active and puts the focus in its list.
     static void showActive(QWidget &form);

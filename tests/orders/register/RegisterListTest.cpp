@@ -5,12 +5,14 @@
 #include "TImageList.h"
 #include "TRadioGroup.h"
 #include "TframeListView.h"
+#include "Typing.h"
 
 #include <QApplication>
 #include <QComboBox>
 #include <QLabel>
 #include <QLineEdit>
 #include <QPushButton>
+#include <QRadioButton>
 
 namespace {
 
@@ -90,8 +92,10 @@ TEST_F(RegisterList, AFilterChangeWaitsForARefresh)
     const int forwarded = addOrder([](TZlecenia_przychObj &o) { o.IDPRZEWOZNIK = 3; });
     const auto form = openRegister();
     const int all = form->frameListView1->lvMain->itemCount();
+    showActive(*form);
 
-    form->RadioGroup1->setItemIndex(OrderListFilter::Forwarded);
+    Typing::click(form->RadioGroup1->button(OrderListFilter::Forwarded));
+    EXPECT_EQ(form->RadioGroup1->itemIndex(), OrderListFilter::Forwarded);
     EXPECT_EQ(form->frameListView1->lvMain->itemCount(), all);
     form->frameListView1->Refresh();
     EXPECT_TRUE(listed(*form, forwarded));
@@ -99,7 +103,7 @@ TEST_F(RegisterList, AFilterChangeWaitsForARefresh)
     EXPECT_EQ(form->frameListView1->lvMain->itemCount(),
               listedCount(QStringLiteral("IDPRZEWOZNIK <> 1")));
 
-    form->RadioGroup1->setItemIndex(OrderListFilter::OwnHaulage);
+    Typing::click(form->RadioGroup1->button(OrderListFilter::OwnHaulage));
     form->frameListView1->Refresh();
     EXPECT_TRUE(listed(*form, own));
     EXPECT_FALSE(listed(*form, forwarded));
@@ -159,8 +163,9 @@ TEST_F(RegisterList, TheDateRangeIsAMonthEitherSideOfTodayAndUndatedOrdersAreAlw
     EXPECT_FALSE(listed(*form, outside));
 
     const int undated = addOrder([](TZlecenia_przychObj &o) { o.DATA = DateTime(); });
-    form->deOd->setDate(QDate(2001, 1, 1));
-    form->deDo->setDate(QDate(2001, 1, 31));
+    showActive(*form);
+    Typing::into(form->deOd, QStringLiteral("2001-01-01"));
+    Typing::into(form->deDo, QStringLiteral("2001-01-31"));
     form->frameListView1->Refresh();
     EXPECT_FALSE(listed(*form, inside));
     EXPECT_EQ(cell(*form, undated, Col::DataZaladunku), "");
