@@ -21,6 +21,8 @@
 
 #include <gtest/gtest.h>
 
+#include <functional>
+
 namespace {
 
 using namespace TestData;
@@ -70,16 +72,19 @@ protected:
         Typing::press(arrow);
     }
 
-    // Opens a cell with Enter and types the amount into its dialog.
+    // Opens a cell with Enter, lets the caller look at its dialog, types the
+    // amount and leaves the dialog with the accelerator: Alt+Z saves, Alt+A
+    // cancels.
+    using Look = std::function<void(TfrmAddEditCenniki &)>;
     void editCell(TfrmCenniki &grid, int column, int row, const QString &amount,
-                  double *shownAmount = nullptr)
+                  const Look &look = {}, Qt::Key leaveWith = Qt::Key_Z)
     {
         scriptedModalRunner().expect<TfrmAddEditCenniki>([=](TfrmAddEditCenniki &d) {
             Typing::activate(&d);
-            if (shownAmount)
-                *shownAmount = d.amount();
+            if (look)
+                look(d);
             Typing::into(d.edStawka, amount);
-            Typing::accelerator(Qt::Key_Z);
+            Typing::accelerator(leaveWith);
             EXPECT_TRUE(Typing::closes(&d));
             return d.result();
         });
@@ -170,32 +175,16 @@ TEST_F(PriceGrid, AFilledCellIsUpdatedOrDeletedByZeroAndAnEmptyOneFilledOnlyByAn
     seedGrid();
     auto grid = openGrid();
     choose(*grid, Qt::Key_Down);
-    scriptedModalRunner().expect<TfrmAddEditCenniki>([](TfrmAddEditCenniki &d) {
+    editCell(*grid, 1, 1, QStringLiteral("105,5"), [](TfrmAddEditCenniki &d) {
         EXPECT_EQ(d.lblKg->text(), "0-1000");
         EXPECT_EQ(d.lblKm->text(), "0-100");
         EXPECT_DOUBLE_EQ(d.amount(), 99.0);
-        Typing::activate(&d);
-        Typing::into(d.edStawka, QStringLiteral("105,5"));
-        Typing::accelerator(Qt::Key_Z);
-        EXPECT_TRUE(Typing::closes(&d));
-        return d.result();
     });
-    moveTo(*grid, 1, 1);
-    Typing::press(Qt::Key_Return);
     EXPECT_EQ(cells(QStringLiteral("GRUPA = %1 AND KWOTA = 105.5").arg(open)), 1);
     EXPECT_EQ(grid->Cells(1, 1), "105,50");
 
     // Cancelled, even zero changes nothing.
-    scriptedModalRunner().expect<TfrmAddEditCenniki>([](TfrmAddEditCenniki &d) {
-        Typing::activate(&d);
-        Typing::into(d.edStawka, QStringLiteral("0"));
-        Typing::accelerator(Qt::Key_A);
-        EXPECT_TRUE(Typing::closes(&d));
-        return d.result();
-    });
-    moveTo(*grid, 1, 1);
-    Typing::press(Qt::Key_Return);
-    EXPECT_TRUE(scriptedModalRunner().allRun());
+    editCell(*grid, 1, 1, QStringLiteral("0"), {}, Qt::Key_A);
     EXPECT_EQ(cells(QStringLiteral("GRUPA = %1 AND KWOTA = 105.5").arg(open)), 1);
 
     editCell(*grid, 1, 1, QStringLiteral("-3"));
@@ -206,7 +195,8 @@ TEST_F(PriceGrid, AFilledCellIsUpdatedOrDeletedByZeroAndAnEmptyOneFilledOnlyByAn
     // In an empty cell of the main list zero stores nothing, an amount is stored.
     choose(*grid, Qt::Key_Up);
     double shown = -1.0;
-    editCell(*grid, 1, 2, QStringLiteral("0"), &shown);
+    editCell(*grid, 1, 2, QStringLiteral("0"),
+             [&shown](TfrmAddEditCenniki &d) { shown = d.amount(); });
     EXPECT_DOUBLE_EQ(shown, 0.0);
     EXPECT_EQ(grid->windowTitle(), "1,2");
     EXPECT_EQ(cells(QStringLiteral("GRUPA = 0")), 1);
