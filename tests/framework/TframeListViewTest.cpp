@@ -5,6 +5,7 @@
 #include "TListView.h"
 #include "TRadioGroup.h"
 #include "TframeListView.h"
+#include "Typing.h"
 
 #include <QAction>
 #include <QCheckBox>
@@ -49,6 +50,33 @@ QAction *menuItem(QMenu *menu, const QString &submenu, const QString &item)
     return nullptr;
 }
 
+// The search options are set in the panel's lower part, which the
+// options button opens.
+void openOptions(TframeListView &frame)
+{
+    if (!frame.pnlSearch->isExpanded())
+        Typing::click(frame.btnOpcje);
+    ASSERT_TRUE(frame.pnlSearch->isExpanded());
+}
+
+// Clears a search option as a user does: Space on its box.
+void untick(TframeListView &frame, QCheckBox *box)
+{
+    openOptions(frame);
+    ASSERT_TRUE(box->isChecked());
+    box->setFocus();
+    Typing::press(Qt::Key_Space);
+}
+
+// Chooses a search option as a user does: Space on its radio button.
+void chooseOption(TframeListView &frame, int option)
+{
+    openOptions(frame);
+    QRadioButton *button = frame.rgSearchOptions->button(option);
+    button->setFocus();
+    Typing::press(Qt::Key_Space);
+}
+
 QStringList column(const TListView &list, int column)
 {
     QStringList values;
@@ -68,14 +96,10 @@ protected:
         list = frame->lvMain;
         frame->numericColumns() << QStringLiteral("Kwota");
         frame->dateColumns() << QStringLiteral("Data");
-        form->show();
+        Typing::activate(form.get());
     }
 
-    void typeSearch(const QString &text)
-    {
-        frame->edSearch->setText(text);
-        QTest::keyRelease(frame->edSearch, Qt::Key_End);
-    }
+    void typeSearch(const QString &text) { Typing::into(frame->edSearch, text); }
 
     std::unique_ptr<TfrmSampleRegister> form;
     TframeListView *frame = nullptr;
@@ -100,16 +124,19 @@ TEST_F(LVFrame, SearchWithoutAColumnSortsByTheFirstColumnFirst)
 TEST_F(LVFrame, NextContinuesAfterTheSelectionAndDoesNotWrap)
 {
     TframeListView::setSearchColumn(1);
-    frame->acSearchOnKey->setChecked(false);
+    untick(*frame, frame->cbSearchOnKey);
     list->setSelectedIndex(0);
-    frame->edSearch->setText(QStringLiteral("a"));
+    typeSearch(QStringLiteral("a"));
 
     QTest::keyClick(frame->edSearch, Qt::Key_Return);
     EXPECT_EQ(list->selectedIndex(), 1);   // "Agromax", the row after the selected one
     EXPECT_EQ(frame->btnSearch->text(), "&Dalej");
 
-    frame->edSearch->setText(QStringLiteral("Trans"));
-    frame->btnSearch->click();
+    // Typing a new text goes back to the first row; the search starts after it.
+    typeSearch(QStringLiteral("Trans"));
+    EXPECT_EQ(list->selectedIndex(), 0);
+    list->setSelectedIndex(1);
+    Typing::click(frame->btnSearch);
     // Only row 0 holds "Trans", and the search does not wrap back to it.
     EXPECT_EQ(list->selectedIndex(), 1);
 }
@@ -119,38 +146,39 @@ TEST_F(LVFrame, SearchOnKeyStaysOnTheMatchWhileTypingAndMindsCaseOnlyWhenAsked)
     TframeListView::setSearchColumn(1);
     typeSearch(QStringLiteral("a"));
     EXPECT_EQ(list->selectedIndex(), 0);   // "Trans-Bud"
-    typeSearch(QStringLiteral("ag"));
+    Typing::keys(QStringLiteral("g"));
     EXPECT_EQ(list->selectedIndex(), 1);   // "Agromax"
-    typeSearch(QStringLiteral("agr"));
+    Typing::keys(QStringLiteral("r"));
     EXPECT_EQ(list->selectedIndex(), 1);
 
-    typeSearch(QStringLiteral("KRAKÓW"));
-    EXPECT_EQ(list->selectedIndex(), 2);
+    // No row holds any part of these capitals as typed.
+    typeSearch(QStringLiteral("ŁAD"));
+    EXPECT_EQ(list->selectedIndex(), 3);   // "Zakład Mięsny"
     list->setSelectedIndex(0);
-    frame->acCaseSensitive->setChecked(false);
-    EXPECT_FALSE(frame->cbCaseSensitive->isChecked());
-    typeSearch(QStringLiteral("KRAKÓW"));
+    untick(*frame, frame->cbCaseSensitive);
+    EXPECT_FALSE(frame->acCaseSensitive->isChecked());
+    typeSearch(QStringLiteral("ŁAD"));
     EXPECT_EQ(list->selectedIndex(), 0);
 }
 
 TEST_F(LVFrame, EqualNeedsTheWholeTextInTheFirstColumnOnlyElsewhereItMeansContains)
 {
-    frame->acSearchOnKey->setChecked(false);
+    untick(*frame, frame->cbSearchOnKey);
     TframeListView::setSearchColumn(0);
-    frame->rgSearchOptions->setItemIndex(TframeListView::Equals);
+    chooseOption(*frame, TframeListView::Equals);
     list->setSelectedIndex(0);
-    frame->edSearch->setText(QStringLiteral("0000000"));
-    frame->btnSearch->click();
+    typeSearch(QStringLiteral("0000000"));
+    Typing::click(frame->btnSearch);
     EXPECT_EQ(list->selectedIndex(), 0);
-    frame->edSearch->setText(QStringLiteral("00000004"));
-    frame->btnSearch->click();
+    typeSearch(QStringLiteral("00000004"));
+    Typing::click(frame->btnSearch);
     EXPECT_EQ(list->selectedIndex(), 2);
     EXPECT_EQ(frame->rgSearchOptions->itemIndex(), TframeListView::Equals);
 
     TframeListView::setSearchColumn(2);
     list->setSelectedIndex(0);
-    frame->edSearch->setText(QStringLiteral("dań"));
-    frame->btnSearch->click();
+    typeSearch(QStringLiteral("dań"));
+    Typing::click(frame->btnSearch);
     EXPECT_EQ(list->text(list->selectedIndex(), 2), "Gdańsk");
     EXPECT_EQ(frame->rgSearchOptions->itemIndex(), TframeListView::Contains);
 }
@@ -400,9 +428,10 @@ TEST(LVFrameSettings, SurviveClosingAndReopeningTheForm)
         TframeListView *frame = form->frame;
         menuItem(frame->pmMain, "Ukryj kolumny", "Miasto")->trigger();
         frame->lvMain->setColumnWidth(0, 150);
-        frame->acSearchOnKey->setChecked(false);
-        frame->acCaseSensitive->setChecked(false);
-        frame->rgSearchOptions->setItemIndex(TframeListView::StartsWith);
+        Typing::activate(form.get());
+        untick(*frame, frame->cbSearchOnKey);
+        untick(*frame, frame->cbCaseSensitive);
+        chooseOption(*frame, TframeListView::StartsWith);
         EXPECT_EQ(frame->settingsGroup(), "42/TfrmSampleRegister/frameListView1");
     }
     auto form = TfrmRODefault::create<TfrmSampleRegister>(Captions, sampleRows(), 42);

@@ -4,6 +4,7 @@
 #include "TListView.h"
 #include "TfrmRODefault.h"
 #include "TfrmWaitPlease.h"
+#include "Typing.h"
 
 #include <QApplication>
 #include <QBoxLayout>
@@ -181,9 +182,9 @@ TEST(DefaultWindow, ButtonsAndCloseBoxSetTheModalResult)
 {
     auto form = createEditor(Flags{});
     const std::pair<void (*)(SampleEditor &), int> cases[] = {
-        {[](SampleEditor &e) { e.btnOk->click(); }, TfrmRODefault::mrOk},
+        {[](SampleEditor &e) { Typing::click(e.btnOk); }, TfrmRODefault::mrOk},
         {[](SampleEditor &e) { e.close(); }, TfrmRODefault::mrCancel},
-        {[](SampleEditor &e) { e.btnCancel->click(); }, TfrmRODefault::mrCancel}};
+        {[](SampleEditor &e) { Typing::click(e.btnCancel); }, TfrmRODefault::mrCancel}};
     for (const auto &[act, result] : cases) {
         scriptedModalRunner().expect<SampleEditor>([act](SampleEditor &editor) {
             act(editor);

@@ -68,8 +68,9 @@ std::unique_ptr<TypedForm> shownForm()
 TEST(TypedFields, ANumberShowsItsPatternAndIsEditedPlain)
 {
     auto form = shownForm();
-    form->seKwota->setValue(1500.0);
-    form->edOdleglosc->setValue(12345);
+    Typing::into(form->seKwota, QStringLiteral("1500"));
+    Typing::into(form->edOdleglosc, QStringLiteral("12345"));
+    Typing::press(Qt::Key_Tab);
     EXPECT_EQ(form->seKwota->text(), QStringLiteral("1") + Nbsp + QStringLiteral("500,00"));
     EXPECT_EQ(form->edOdleglosc->text(), QStringLiteral("12") + Nbsp + QStringLiteral("345 km"));
     form->seKwota->setFocus(Qt::TabFocusReason);
@@ -172,7 +173,7 @@ TEST(TypedFields, ADateThatMustBeGivenRefusesTheEmptyField)
 {
     auto form = shownForm();
     form->deData->setEmptyAllowed(false);
-    form->deData->setDate(QDate(2026, 1, 2));
+    Typing::into(form->deData, QStringLiteral("2026-01-02"));
     Typing::into(form->deData, QString());
     scriptedMessages().expect(MessageService::Ok);
     Typing::accelerator(Qt::Key_Z);

@@ -14,9 +14,11 @@
 #include "TfrmAddEditZlecenia_Przych.h"
 #include "TfrmWyborWspolnika.h"
 #include "TfrmZlecPrzychodzace.h"
+#include "Typing.h"
 
 #include <QAction>
 #include <QApplication>
+#include <QDate>
 #include <QLibrary>
 #include <QTemporaryDir>
 #include <QTest>
@@ -162,8 +164,10 @@ TEST_F(Module, AnOrderAddedFromTheRegisterIsSavedAndSelectedAndTheCloseButtonRet
     scriptedModalRunner().expect<TfrmZlecPrzychodzace>([&](TfrmZlecPrzychodzace &form) {
         scriptedModalRunner().expect<TfrmAddEditZlecenia_Przych>(
             [](TfrmAddEditZlecenia_Przych &editor) {
-                editor.deAwizo->setValue(DateTime::today());
-                editor.btnOk->click();
+                Typing::activate(&editor);
+                Typing::into(editor.deAwizo,
+                             QDate::currentDate().toString(QStringLiteral("dd.MM.yyyy")));
+                Typing::accelerator(Qt::Key_Z);
                 return editor.result();
             });
         form.frameListView1->BitBtn5->click();

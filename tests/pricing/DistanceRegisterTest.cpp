@@ -13,6 +13,7 @@
 #include <QApplication>
 #include <QComboBox>
 #include <QLineEdit>
+#include <QTest>
 
 #include <gtest/gtest.h>
 
@@ -50,9 +51,15 @@ protected:
         result.sort();
         return result;
     }
-    void choose(TfrmMiasta &form, const QString &city)
+    // Types the city's name into the combo, after the pause that ends the
+    // name typed before.
+    static void choose(TfrmMiasta &form, const QString &city)
     {
-        form.CBMiasta->setCurrentIndex(form.CBMiasta->findText(city));
+        Typing::activate(&form);
+        form.CBMiasta->setFocus();
+        QTest::qWait(QApplication::keyboardInputInterval() + 50);
+        Typing::keys(city);
+        ASSERT_EQ(form.CBMiasta->currentText(), city);
     }
 
     int krakow = 0, lodz = 0, gdansk = 0, toKrakow = 0, toGdansk = 0;

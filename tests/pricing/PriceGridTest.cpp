@@ -21,6 +21,8 @@
 
 #include <gtest/gtest.h>
 
+#include <functional>
+
 namespace {
 
 using namespace TestData;
@@ -50,20 +52,44 @@ protected:
         return TfrmRODefault::create<TfrmCenniki>(nullptr);
     }
 
-    // Double-clicks a grid cell (column and row counted with the fixed
-    // ones) and answers the amount dialog with the amount.
-    void editCell(TfrmCenniki &grid, int column, int row, double amount,
-                  double *shownAmount = nullptr)
+    // Puts the grid's cursor on a cell (column and row counted with the
+    // fixed ones) with the arrow keys.
+    static void moveTo(TfrmCenniki &grid, int column, int row)
+    {
+        Typing::activate(&grid);
+        grid.sgCennik->setFocus();
+        Typing::press(Qt::Key_Home, Qt::ControlModifier);
+        for (int down = 1; down < row; ++down)
+            Typing::press(Qt::Key_Down);
+        for (int right = 1; right < column; ++right)
+            Typing::press(Qt::Key_Right);
+    }
+    // Chooses a price list of the grid's combo with the arrow keys.
+    static void choose(TfrmCenniki &grid, Qt::Key arrow)
+    {
+        Typing::activate(&grid);
+        grid.cbCennik->setFocus();
+        Typing::press(arrow);
+    }
+
+    // Opens a cell with Enter, lets the caller look at its dialog, types the
+    // amount and leaves the dialog with the accelerator: Alt+Z saves, Alt+A
+    // cancels.
+    using Look = std::function<void(TfrmAddEditCenniki &)>;
+    void editCell(TfrmCenniki &grid, int column, int row, const QString &amount,
+                  const Look &look = {}, Qt::Key leaveWith = Qt::Key_Z)
     {
         scriptedModalRunner().expect<TfrmAddEditCenniki>([=](TfrmAddEditCenniki &d) {
-            if (shownAmount)
-                *shownAmount = d.amount();
-            d.edStawka->setValue(amount);
-            d.btnOk->click();
+            Typing::activate(&d);
+            if (look)
+                look(d);
+            Typing::into(d.edStawka, amount);
+            Typing::accelerator(leaveWith);
+            EXPECT_TRUE(Typing::closes(&d));
             return d.result();
         });
-        grid.sgCennik->setCurrentCell(row - 1, column - 1);
-        grid.sgCennikDblClick();
+        moveTo(grid, column, row);
+        Typing::press(Qt::Key_Return);
         EXPECT_TRUE(scriptedModalRunner().allRun());
     }
 
@@ -139,7 +165,7 @@ TEST_F(PriceGrid, RangesHeadTheGridWhichShowsTheChosenOpenGroupsCells)
     EXPECT_EQ(grid->cbCennik->currentIndex(), 0);
     EXPECT_EQ(grid->cbCennik->itemText(1), "Klienci kluczowi");
     EXPECT_EQ(cells(QStringLiteral("GRUPA = %1").arg(blocked)), 1);
-    grid->cbCennik->setCurrentIndex(1);
+    choose(*grid, Qt::Key_Down);
     EXPECT_EQ(grid->Cells(1, 1), "99,00");
     EXPECT_EQ(grid->Cells(2, 2), "");
 }
@@ -148,44 +174,34 @@ TEST_F(PriceGrid, AFilledCellIsUpdatedOrDeletedByZeroAndAnEmptyOneFilledOnlyByAn
 {
     seedGrid();
     auto grid = openGrid();
-    grid->cbCennik->setCurrentIndex(1);
-    scriptedModalRunner().expect<TfrmAddEditCenniki>([](TfrmAddEditCenniki &d) {
+    choose(*grid, Qt::Key_Down);
+    editCell(*grid, 1, 1, QStringLiteral("105,5"), [](TfrmAddEditCenniki &d) {
         EXPECT_EQ(d.lblKg->text(), "0-1000");
         EXPECT_EQ(d.lblKm->text(), "0-100");
         EXPECT_DOUBLE_EQ(d.amount(), 99.0);
-        d.edStawka->setValue(105.5);
-        d.btnOk->click();
-        return d.result();
     });
-    grid->sgCennik->setCurrentCell(0, 0);
-    grid->sgCennikDblClick();
     EXPECT_EQ(cells(QStringLiteral("GRUPA = %1 AND KWOTA = 105.5").arg(open)), 1);
     EXPECT_EQ(grid->Cells(1, 1), "105,50");
 
     // Cancelled, even zero changes nothing.
-    scriptedModalRunner().expect<TfrmAddEditCenniki>([](TfrmAddEditCenniki &d) {
-        d.edStawka->setValue(0.0);
-        return 2;
-    });
-    grid->sgCennik->setCurrentCell(0, 0);
-    grid->sgCennikDblClick();
-    EXPECT_TRUE(scriptedModalRunner().allRun());
+    editCell(*grid, 1, 1, QStringLiteral("0"), {}, Qt::Key_A);
     EXPECT_EQ(cells(QStringLiteral("GRUPA = %1 AND KWOTA = 105.5").arg(open)), 1);
 
-    editCell(*grid, 1, 1, -3.0);
+    editCell(*grid, 1, 1, QStringLiteral("-3"));
     EXPECT_EQ(cells(QStringLiteral("GRUPA = %1").arg(open)), 0);
     EXPECT_EQ(grid->Cells(1, 1), "");
     EXPECT_EQ(cells(QStringLiteral("GRUPA = %1").arg(blocked)), 1);
 
     // In an empty cell of the main list zero stores nothing, an amount is stored.
-    grid->cbCennik->setCurrentIndex(0);
+    choose(*grid, Qt::Key_Up);
     double shown = -1.0;
-    editCell(*grid, 1, 2, 0.0, &shown);
+    editCell(*grid, 1, 2, QStringLiteral("0"),
+             [&shown](TfrmAddEditCenniki &d) { shown = d.amount(); });
     EXPECT_DOUBLE_EQ(shown, 0.0);
     EXPECT_EQ(grid->windowTitle(), "1,2");
     EXPECT_EQ(cells(QStringLiteral("GRUPA = 0")), 1);
 
-    editCell(*grid, 1, 2, 450.0);
+    editCell(*grid, 1, 2, QStringLiteral("450"));
     EXPECT_EQ(cells(QStringLiteral("GRUPA = 0 AND KILOMETRY = %1 AND KILOGRAMY = %2 AND "
                                    "KWOTA = 450")
                         .arg(far)
@@ -253,7 +269,9 @@ TEST_F(PriceGrid, TheClientViewerListsClientsOfThePriceList)
     EXPECT_EQ(list.key(0), 501);
     EXPECT_EQ(list.items().texts(0), (QStringList{"Alfa", "Polna 1", "90-001", "Łódź"}));
 
-    viewer->cbCennik->setCurrentIndex(1);
+    Typing::activate(viewer.get());
+    viewer->cbCennik->setFocus();
+    Typing::press(Qt::Key_Down);
     ASSERT_EQ(list.itemCount(), 1);
     EXPECT_EQ(list.key(0), 502);
     EXPECT_EQ(list.caption(0), "Beta");

@@ -39,9 +39,12 @@ protected:
     {
         scriptedModalRunner().expect<TfrmAddEditCennikWierszeKolumny>(
             [bound](TfrmAddEditCennikWierszeKolumny &d) {
-                d.edWartosc->setValue(bound);
-                d.btnOk->click();
-                return d.isVisible() ? (d.btnCancel->click(), d.result()) : d.result();
+                Typing::activate(&d);
+                Typing::into(d.edWartosc, QString::number(bound));
+                Typing::accelerator(Qt::Key_Z);
+                if (d.isVisible())
+                    Typing::accelerator(Qt::Key_A);
+                return d.result();
             });
     }
 
@@ -83,14 +86,17 @@ TEST_F(RangeEditor, ADuplicateUpperBoundIsRefusedAndADoubleClickCorrectsARange)
     scriptedMessages().expect();
     scriptedModalRunner().expect<TfrmAddEditCennikWierszeKolumny>(
         [](TfrmAddEditCennikWierszeKolumny &d) {
-            // The dialog shows the unit of its axis.
-            d.edWartosc->setValue(12000);
+            Typing::activate(&d);
+            // The dialog shows the unit of its axis once the field is left.
+            Typing::into(d.edWartosc, QStringLiteral("12000"));
+            Typing::press(Qt::Key_Tab);
             EXPECT_EQ(d.edWartosc->text(), QStringLiteral("12\u00a0000 kg"));
             EXPECT_EQ(d.windowTitle(), "Edycja");
-            d.edWartosc->setValue(1000);
-            d.btnOk->click();
+            Typing::into(d.edWartosc, QStringLiteral("1000"));
+            Typing::accelerator(Qt::Key_Z);
             EXPECT_TRUE(d.isVisible());
-            d.btnCancel->click();
+            Typing::accelerator(Qt::Key_A);
+            EXPECT_TRUE(Typing::closes(&d));
             return d.result();
         });
     form->btnDodajKolumne->click();

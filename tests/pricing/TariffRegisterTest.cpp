@@ -10,8 +10,10 @@
 #include "TframeListView.h"
 #include "TfrmAddEditStawkiTaryfowe.h"
 #include "TfrmStawkiTaryfowe.h"
+#include "Typing.h"
 
 #include <QAction>
+#include <QApplication>
 #include <QComboBox>
 #include <QLineEdit>
 
@@ -70,7 +72,9 @@ TEST_F(TariffRegister, ShowsOnlyTheKindChosenByItsOpenerOrInTheFilter)
     EXPECT_EQ(form->cbFilter->currentText(), "przewoźnika");
     EXPECT_EQ(captions(*form), QStringList{"Podwykonawca"});
 
-    form->cbFilter->setCurrentIndex(1);
+    Typing::activate(form.get());
+    form->cbFilter->setFocus();
+    Typing::keys(QStringLiteral("w"));
     EXPECT_EQ(captions(*form), (QStringList{"Krajowa standard", "Ekspres"}));
     const int row = list(*form).findByKey(own);
     EXPECT_EQ(list(*form).items().texts(row),
@@ -134,14 +138,15 @@ TEST_F(TariffRegister, AddingStoresTheKindAndZeroStorage)
     scriptedModalRunner().expect<TfrmAddEditStawkiTaryfowe>([](TfrmAddEditStawkiTaryfowe &e) {
         EXPECT_EQ(e.cbFilter->currentIndex(), 0);
         EXPECT_TRUE(e.cbFilter->isEnabled());
-        e.cbFilter->setCurrentIndex(1);
-        e.edNazwaStawki->setText(QStringLiteral("Paletowa"));
-        e.seNumerStawki->setValue(14);
-        e.seStawkaKM->setValue(2.5);
-        e.seStawkaKMPusty->setValue(11.0);
-        e.seStawkaPaleta->setValue(40.0);
-        e.seStawkaGodzina->setValue(90.0);
-        e.btnOk->click();
+        Typing::activate(&e);
+        EXPECT_EQ(QApplication::focusWidget(), e.cbFilter);
+        Typing::keys(QStringLiteral("w\tPaletowa\t"));
+        Typing::into(e.seNumerStawki, QStringLiteral("14"));
+        Typing::into(e.seStawkaKM, QStringLiteral("2,5"));
+        Typing::into(e.seStawkaKMPusty, QStringLiteral("11"));
+        Typing::into(e.seStawkaPaleta, QStringLiteral("40"));
+        Typing::into(e.seStawkaGodzina, QStringLiteral("90"));
+        Typing::accelerator(Qt::Key_Z);
         return e.result();
     });
     form->acDodaj->trigger();
@@ -169,9 +174,10 @@ TEST_F(TariffRegister, EditingKeepsTheKindStorageAndOther)
         EXPECT_DOUBLE_EQ(e.seStawkaKM->value(), 4.4);
         EXPECT_DOUBLE_EQ(e.seStawkaGodzina->value(), 120.0);
         e.cbFilter->setCurrentIndex(0);   // even forced, the kind must stay
-        e.edNazwaStawki->setText(QStringLiteral("Ekspres 24h"));
-        e.seStawkaKMPusty->setValue(1.5);
-        e.btnOk->click();
+        Typing::activate(&e);
+        Typing::into(e.edNazwaStawki, QStringLiteral("Ekspres 24h"));
+        Typing::into(e.seStawkaKMPusty, QStringLiteral("1,5"));
+        Typing::accelerator(Qt::Key_Z);
         return e.result();
     });
     form->acPopraw->trigger();
