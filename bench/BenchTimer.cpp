@@ -1,8 +1,9 @@
 #include "BenchTimer.h"
 
+#include "Median.h"
+
 #include <QElapsedTimer>
 
-#include <algorithm>
 #include <cstdio>
 
 double BenchTimer::measure(const QString &name, const std::function<void()> &step, int repetitions,
@@ -17,10 +18,9 @@ double BenchTimer::measure(const QString &name, const std::function<void()> &ste
         step();
         times.push_back(static_cast<double>(timer.nsecsElapsed()) / 1e6);
     }
-    std::sort(times.begin(), times.end());
-    const double median = times[times.size() / 2];
-    note(name, median);
-    return median;
+    const double middle = median(times);
+    note(name, middle);
+    return middle;
 }
 
 void BenchTimer::note(const QString &name, double milliseconds)

@@ -10,6 +10,7 @@
 #include "CarrierInvoiceList.h"
 #include "Connection.h"
 #include "CountOptions.h"
+#include "Median.h"
 #include "OffscreenProgram.h"
 #include "PdfBook.h"
 #include "PrintJobs.h"
@@ -49,12 +50,6 @@ double milliseconds(const std::function<void()> &step)
     timer.start();
     step();
     return static_cast<double>(timer.nsecsElapsed()) / 1e6;
-}
-
-double median(std::vector<double> values)
-{
-    std::sort(values.begin(), values.end());
-    return values[values.size() / 2];
 }
 
 // A then B, pairs times; B's median and its ratio to A's in the same pair.

@@ -10,6 +10,7 @@
 #include "CountOptions.h"
 #include "DbError.h"
 #include "DemoSeeder.h"
+#include "Median.h"
 #include "OffscreenProgram.h"
 #include "PdfBook.h"
 #include "PrintJobs.h"
@@ -86,12 +87,6 @@ struct Timing
     double layoutMedian;   // reading the data and laying the pages out
     int pages;
 };
-
-double median(std::vector<double> times)
-{
-    std::sort(times.begin(), times.end());
-    return times[times.size() / 2];
-}
 
 // What haulix-print does after opening the database: lay both reports out
 // in one snapshot and save the file.

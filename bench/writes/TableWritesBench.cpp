@@ -12,13 +12,14 @@
 // medians measured in the same run.
 #include "BenchTimer.h"
 #include "CountOptions.h"
+#include "Median.h"
 #include "OffscreenProgram.h"
 #include "SeededDatabase.h"
 #include "Statement.h"
-#include "TTowaryObj.h"
-#include "TZlecenia_przychObj.h"
 #include "TableStatements.h"
 #include "Transaction.h"
+#include "TTowaryObj.h"
+#include "TZlecenia_przychObj.h"
 
 #include <QElapsedTimer>
 #include <QTemporaryDir>
@@ -53,12 +54,6 @@ void probe(Connection &connection, const QString &field)
     Statement st(connection);
     st.add(TableStatements::probeLine(TTowaryObj::description().info.table, field));
     st.exec();
-}
-
-double median(std::vector<double> times)
-{
-    std::sort(times.begin(), times.end());
-    return times[times.size() / 2];
 }
 
 } // namespace

@@ -12,9 +12,11 @@
 #include "BenchTimer.h"
 #include "Connection.h"
 #include "CountOptions.h"
+#include "Format.h"
+#include "Median.h"
 #include "OffscreenProgram.h"
-#include "PdfBook.h"
 #include "PartnersSelection.h"
+#include "PdfBook.h"
 #include "PdfDocument.h"
 #include "PrintJobs.h"
 #include "Report.h"
@@ -22,7 +24,6 @@
 #include "ReportTextCache.h"
 #include "SeededDatabase.h"
 #include "Statement.h"
-#include "Format.h"
 #include "TfrmRepWspolnicy.h"
 #include "TfrmZestawienieKontrahenta.h"
 #include "Transaction.h"
@@ -81,12 +82,6 @@ ChildFigures runChild(const QString &program, const QStringList &arguments)
     if (wait4(pid, &status, 0, &usage) != pid || !WIFEXITED(status) || WEXITSTATUS(status) != 0)
         throw std::runtime_error("haulix-print zakończył się błędem");
     return {static_cast<double>(timer.nsecsElapsed()) / 1e6, usage.ru_maxrss / 1024.0};
-}
-
-double median(std::vector<double> values)
-{
-    std::sort(values.begin(), values.end());
-    return values[values.size() / 2];
 }
 
 // The pages painted into a PDF in memory, one part, with or without kept
